@@ -1,0 +1,22 @@
+// Whole-file writes that never leave a half-written file: the bytes go to a
+// temporary file beside the target, which is then renamed over it.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+
+namespace lumen {
+
+// Native path. False when the file couldn't be written; the old file, if
+// any, is then untouched.
+bool writeFileSafely(const QString& nativePath, const QByteArray& bytes);
+
+// Encodes the text as text files are written (see TextCodec.h) and writes it
+// safely. The text is written as given: callers add CR LF where they need it.
+bool writeTextFileSafely(const QString& nativePath, const QString& text);
+
+// Reads and decodes a whole text file; nothing when it can't be read.
+std::optional<QString> readTextFile(const QString& nativePath);
+
+} // namespace lumen

@@ -1,0 +1,34 @@
+// Text encodings of the program's files. Lists written on Windows are
+// Shift-JIS (code page 932), read through iconv; new text is written in
+// CP932 when every character fits, otherwise in UTF-8 with a byte-order mark,
+// so nothing is ever lost.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+namespace lumen::text {
+
+// A UTF-8 byte-order mark, or valid UTF-8 holding non-ASCII bytes, is UTF-8;
+// anything else is CP932. Bytes that aren't valid CP932 become U+FFFD, one
+// per bad byte, so that a damaged file still reads.
+QString decode(const QByteArray& bytes);
+QString decodeCp932(const QByteArray& bytes);
+
+// CP932 bytes of the text, or nothing when a character has no CP932 form.
+std::optional<QByteArray> encodeCp932(const QString& text);
+
+// The bytes written for a text file: CP932 if it fits, else BOM + UTF-8.
+QByteArray encodeForFile(const QString& text);
+
+// A fixed-width record field: CP932 if it fits, else UTF-8; cut at a
+// character boundary so that it fits `width` bytes (not padded).
+QByteArray encodeField(const QString& text, int width);
+
+// Lines of a text as a line-by-line reader gives them: parted at CR LF, LF or
+// CR; a final line break doesn't start an empty line.
+QStringList splitLines(const QString& text);
+
+} // namespace lumen::text
