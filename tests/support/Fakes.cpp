@@ -18,6 +18,9 @@ void FakeClock::waitUntil(qint64 tick)
 
 void FakeClock::doEvents()
 {
+    ++doEventsCount;
+    if (onDoEvents)
+        onDoEvents();
     if (QCoreApplication::instance())
         QCoreApplication::processEvents();
 }

@@ -21,6 +21,8 @@ public:
     qint64 now = 0;
     QList<qint64> waits;                 // length of each wait, in order
     std::function<void(qint64)> onWait;  // called with the wait's length
+    std::function<void()> onDoEvents;    // called at every DoEvents
+    int doEventsCount = 0;
     bool pumpEvents = true;
 
     qint64 tickCount() override { return now; }

@@ -1,0 +1,10 @@
+#include "start/ProgramState.h"
+
+namespace lumen {
+
+ProgramState::ProgramState()
+    : CommandWord(kCommandWords + 1)
+{
+}
+
+} // namespace lumen

@@ -1,0 +1,178 @@
+// ReadTextOfFile and CleanListFile: their texts, limits, progress and stop.
+#include "support/BasicsFixture.h"
+
+#include <QTest>
+
+using namespace lumen;
+using namespace lumen::test;
+
+namespace {
+
+QByteArray numberedLines(int count)
+{
+    QByteArray bytes;
+    for (int i = 1; i <= count; ++i)
+        bytes += "line" + QByteArray::number(i) + "\r\n";
+    return bytes;
+}
+
+const QString kList = QStringLiteral("C:\\list.lst");
+
+} // namespace
+
+class TestBasicReading : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void readText_data();
+    void readText();
+    void readMissingFile();
+    void readEmptyPath();
+    void readTooManyLines_data();
+    void readTooManyLines();
+    void progressWindow();
+    void stopWhileReading();
+    void clean_data();
+    void clean();
+    void cleanMissingFile();
+};
+
+void TestBasicReading::readText_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("empty file") << QByteArray() << "";
+    QTest::newRow("one line, no end") << QByteArray("a") << "a";
+    QTest::newRow("last CR LF cut") << QByteArray("a\r\nb\r\n") << "a\r\nb";
+    QTest::newRow("LF lines") << QByteArray("a\nb\n") << "a\r\nb";
+    QTest::newRow("CR lines") << QByteArray("a\rb") << "a\r\nb";
+    QTest::newRow("one empty line stays") << QByteArray("\r\n") << "\r\n";
+    QTest::newRow("blank lines inside") << QByteArray("a\r\n\r\nb") << "a\r\n\r\nb";
+    QTest::newRow("Shift-JIS") << QByteArray("\x83\x74\x83\x40\x83\x43\x83\x8B\r\n\xBA\xD2\xDD\xC4")
+                               << "ファイル\r\nｺﾒﾝﾄ";
+    QTest::newRow("UTF-8 with mark") << QByteArray("\xEF\xBB\xBF\xE3\x83\x95\r\n") << "フ";
+    QTest::newRow("UTF-8 without mark") << QByteArray("\xE3\x83\x95\xE3\x82\xA1") << "ファ";
+    QTest::newRow("invalid bytes") << QByteArray("a\xFF\r\n\x81") << "a\uFFFD\r\n\uFFFD";
+}
+
+void TestBasicReading::readText()
+{
+    BasicsFixture f;
+    f.home.writeFile("list.lst", QFETCH(QByteArray, bytes));
+    f.state.StopRequested = true; // cleared by the reader
+    QCOMPARE(f.basics.ReadTextOfFile(kList), QFETCH(QString, text));
+    QVERIFY(!f.state.StopRequested);
+    QVERIFY(f.ui.boxes.isEmpty());
+    QVERIFY(f.host.stopEvents.isEmpty());
+}
+
+void TestBasicReading::readMissingFile()
+{
+    BasicsFixture f;
+    QCOMPARE(f.basics.ReadTextOfFile(QStringLiteral("C:\\none.lst")), QString());
+    QCOMPARE(f.ui.beeps, 1);
+    QCOMPARE(f.ui.boxes, QStringList{"ファイルが見つかりません。"});
+    QCOMPARE(f.host.stopEvents, QStringList{"unload"});
+}
+
+void TestBasicReading::readEmptyPath()
+{
+    BasicsFixture f;
+    QCOMPARE(f.basics.ReadTextOfFile(QString()), QString());
+    QVERIFY(f.ui.boxes.isEmpty());
+}
+
+void TestBasicReading::readTooManyLines_data()
+{
+    QTest::addColumn<int>("lines");
+    QTest::addColumn<bool>("read");
+    QTest::newRow("35,000 fit the chunks") << 35000 << true;
+    QTest::newRow("35,001 overrun them") << 35001 << false;
+}
+
+void TestBasicReading::readTooManyLines()
+{
+    BasicsFixture f;
+    QFETCH(int, lines);
+    f.home.writeFile("list.lst", numberedLines(lines));
+    const QString text = f.basics.ReadTextOfFile(kList);
+    if (QFETCH(bool, read)) {
+        QVERIFY(text.endsWith(QStringLiteral("line35000")));
+        QVERIFY(f.ui.boxes.isEmpty());
+    } else {
+        QCOMPARE(text, QString());
+        QCOMPARE(f.ui.boxes, QStringList{"インデックスが有効範囲にありません。"});
+        QCOMPARE(f.ui.beeps, 1);
+        QCOMPARE(f.host.stopEvents.last(), QStringLiteral("unload"));
+    }
+}
+
+void TestBasicReading::progressWindow()
+{
+    BasicsFixture f;
+    f.home.writeFile("list.lst", numberedLines(1100));
+    f.basics.ReadTextOfFile(kList);
+    // Shown at the 1000th line and left standing; the line every 50 lines,
+    // then the joined count.
+    QCOMPARE(f.host.stopEvents, QStringList{"show"});
+    QCOMPARE(f.host.stopTexts.mid(0, 3), (QStringList{"line1000", "line1050", "line1100"}));
+    QCOMPARE(f.host.stopTexts.last(), QStringLiteral("1150"));
+
+    BasicsFixture small;
+    small.home.writeFile("list.lst", numberedLines(999));
+    small.basics.ReadTextOfFile(kList);
+    QVERIFY(small.host.stopEvents.isEmpty());
+}
+
+void TestBasicReading::stopWhileReading()
+{
+    BasicsFixture f;
+    f.home.writeFile("list.lst", numberedLines(2000));
+    f.clock.onDoEvents = [&f] {
+        if (f.clock.doEventsCount == 1500)
+            f.state.StopRequested = true; // LabelStop pressed
+    };
+    QCOMPARE(f.basics.ReadTextOfFile(kList), QString());
+    QCOMPARE(f.host.stopEvents, (QStringList{"show", "unload"}));
+    QVERIFY(f.ui.boxes.isEmpty());
+}
+
+void TestBasicReading::clean_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QByteArray>("after");
+    QTest::newRow("blank lines dropped, ends trimmed")
+        << QByteArray("a.jpg\r\n\r\n   \r\n b.jpg @WITH=c.wav ENDWITH \r\n\r\n") << 2
+        << QByteArray("a.jpg\r\nb.jpg @WITH=c.wav ENDWITH\r\n");
+    QTest::newRow("25 blanks before a name") << QByteArray(25, ' ') + "a.jpg" << 1
+                                             << QByteArray("a.jpg\r\n");
+    QTest::newRow("comment lines are kept") << QByteArray("' note\r\na.jpg") << 2
+                                            << QByteArray("' note\r\na.jpg\r\n");
+    QTest::newRow("trailing ideographic blank stays")
+        << QByteArray("a.jpg\xE3\x80\x80\n") << 1 << QByteArray("a.jpg\x81\x40\r\n");
+    QTest::newRow("list folder mark") << QByteArray("%:\\pics\\a.jpg") << 1
+                                      << QByteArray("C:\\shows\\a.jpg\r\n");
+    QTest::newRow("empty file untouched") << QByteArray() << 0 << QByteArray();
+    QTest::newRow("blank lines only untouched") << QByteArray("\r\n  \r\n") << 0
+                                                << QByteArray("\r\n  \r\n");
+}
+
+void TestBasicReading::clean()
+{
+    BasicsFixture f;
+    f.state.StartFileName = QStringLiteral("C:\\shows\\show.lst");
+    f.home.writeFile("list.lst", QFETCH(QByteArray, bytes));
+    QCOMPARE(f.basics.CleanListFile(kList), QFETCH(int, count));
+    QCOMPARE(f.home.readFile("list.lst"), QFETCH(QByteArray, after));
+}
+
+void TestBasicReading::cleanMissingFile()
+{
+    BasicsFixture f;
+    QCOMPARE(f.basics.CleanListFile(QStringLiteral("C:\\none.lst")), 0);
+    QVERIFY(f.ui.boxes.isEmpty());
+    QVERIFY(!f.home.exists("none.lst"));
+}
+
+QTEST_GUILESS_MAIN(TestBasicReading)
+#include "tst_BasicReading.moc"

@@ -1,0 +1,143 @@
+// FormHatenaDrive driven by its object names, alone and as the drive window
+// of ResolveDriveName.
+#include "fileops/FormsBasicHost.h"
+#include "fileops/FormStop.h"
+#include "list/FormHatenaDrive.h"
+#include "platform/Colors.h"
+#include "platform/Controls.h"
+#include "platform/FileBoxes.h"
+#include "support/BasicsFixture.h"
+
+#include <QComboBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+using namespace lumen;
+using namespace lumen::test;
+
+class TestFormHatenaDrive : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void loadShowsTheDriveAndItsLists();
+    void commandDoTakesThePair_data();
+    void commandDoTakesThePair();
+    void exitWithoutDriveWhenAsked();
+    void exitWithDriveShowsThePage();
+    void asksForListLinesThroughTheRealWindow();
+};
+
+void TestFormHatenaDrive::loadShowsTheDriveAndItsLists()
+{
+    BasicsFixture f;
+    f.home.writeFile("a.lst", "x");
+    f.home.writeFile("B.LST", "x");
+    f.home.writeFile("c.txt", "x");
+    f.home.makeFolder("shows");
+    FormHatenaDrive form(f.basics);
+    form.load();
+    auto* drive = form.findChild<DriveListBox*>("Drive1");
+    auto* newDrive = form.findChild<QComboBox*>("ComboNewDrive");
+    auto* files = form.findChild<FileListBox*>("File1");
+    QVERIFY(drive && newDrive && files);
+    QCOMPARE(drive->drive(), QStringLiteral("c:"));
+    QCOMPARE(newDrive->currentText(), QStringLiteral("C:"));
+    QStringList names;
+    for (int i = 0; i < files->count(); ++i)
+        names << files->item(i)->text();
+    QCOMPARE(names, (QStringList{"a.lst", "B.LST"}));
+
+    drive->setDrive(QStringLiteral("z:"));
+    QCOMPARE(newDrive->currentText(), QStringLiteral("Z:"));
+    QCOMPARE(form.Dir1->path(), QStringLiteral("Z:\\"));
+}
+
+void TestFormHatenaDrive::commandDoTakesThePair_data()
+{
+    QTest::addColumn<QString>("mark");
+    QTest::addColumn<QString>("drive");
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
+    QTest::newRow("plain") << "?:" << "D:" << "?:" << "D:";
+    QTest::newRow("trimmed, capitals, cut at the colon") << " ?: " << " e:\\media " << "?:"
+                                                         << "E:";
+    QTest::newRow("no colon gives no drive") << "?:" << "D" << "?:" << "";
+}
+
+void TestFormHatenaDrive::commandDoTakesThePair()
+{
+    BasicsFixture f;
+    FormHatenaDrive form(f.basics);
+    QStringList replaced;
+    form.replaceDriveInFileName = [&](const QString& a, const QString& b) { replaced << a << b; };
+    form.load();
+    form.ComboHatenaDrive->setEditText(QFETCH(QString, mark));
+    form.ComboNewDrive->setEditText(QFETCH(QString, drive));
+    QTest::mouseClick(form.findChild<QPushButton*>("CommandDo"), Qt::LeftButton);
+    QFETCH(QString, from);
+    QFETCH(QString, to);
+    QCOMPARE(f.state.ForcedDriveFrom, from);
+    QCOMPARE(f.state.ForcedDriveTo, to);
+    QCOMPARE(replaced, (QStringList{from, to}));
+    QCOMPARE(f.clock.waits, QList<qint64>{300}); // the yellow flash
+    QCOMPARE(backColor(form.CommandDo), 0x80FF80);
+}
+
+void TestFormHatenaDrive::exitWithoutDriveWhenAsked()
+{
+    BasicsFixture f;
+    FormHatenaDrive form(f.basics);
+    int pages = 0;
+    form.takeMainAction = [&] { ++pages; };
+    f.state.HatenaDriveAsked = true;
+    form.showForm();
+    form.CommandExit->click();
+    QCOMPARE(f.ui.boxes, QStringList{"ﾄﾞﾗｲﾌﾞがまだ指定されていませんので指定してください"});
+    QVERIFY(form.isVisible());
+    QVERIFY(form.isLoaded());
+    QCOMPARE(pages, 0);
+}
+
+void TestFormHatenaDrive::exitWithDriveShowsThePage()
+{
+    BasicsFixture f;
+    FormHatenaDrive form(f.basics);
+    int pages = 0;
+    form.takeMainAction = [&] { ++pages; };
+    form.showForm();
+    form.CommandExit->click(); // opened by hand: just unloads
+    QVERIFY(!form.isLoaded());
+    QCOMPARE(pages, 0);
+
+    f.state.HatenaDriveAsked = true;
+    f.state.ForcedDriveTo = QStringLiteral("D:");
+    form.showForm();
+    form.CommandExit->click();
+    QVERIFY(!form.isVisible());
+    QCOMPARE(pages, 1);
+}
+
+void TestFormHatenaDrive::asksForListLinesThroughTheRealWindow()
+{
+    BasicsFixture f;
+    FormStop stop(f.state);
+    FormsBasicHost host(stop);
+    VeroProcedure_Basical basics(f.state, f.services, host);
+    FormHatenaDrive form(basics);
+    host.driveAsker = [&form](const QString& mark) { form.ask(mark); };
+    QString shownMark;
+    // The user, inside the modal window: types a drive, sets it, leaves.
+    QTimer::singleShot(0, &form, [&] {
+        shownMark = form.ComboHatenaDrive->currentText();
+        form.ComboNewDrive->setEditText(QStringLiteral("d:"));
+        form.CommandDo->click();
+        form.CommandExit->click();
+    });
+    QCOMPARE(basics.ResolveDriveName(QStringLiteral("?:\\pics\\a.jpg")),
+             QStringLiteral("D:\\pics\\a.jpg"));
+    QCOMPARE(shownMark, QStringLiteral("?:"));
+    QVERIFY(!form.isVisible());
+}
+
+QTEST_MAIN(TestFormHatenaDrive)
+#include "tst_FormHatenaDrive.moc"

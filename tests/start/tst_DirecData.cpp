@@ -1,0 +1,266 @@
+// The settings record: its bytes at their offsets, damaged files, safe writes.
+#include "fileops/BasicText.h"
+#include "platform/SafeFile.h"
+#include "start/DirecData.h"
+
+#include <QFile>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace lumen;
+
+namespace {
+
+QByteArray cp932(std::initializer_list<int> bytes)
+{
+    QByteArray out;
+    for (int b : bytes)
+        out.append(char(b));
+    return out;
+}
+
+QByteArray padded(QByteArray bytes, int width, char pad = ' ')
+{
+    bytes.append(QByteArray(width - bytes.size(), pad));
+    return bytes;
+}
+
+QByteArray le16(qint16 value)
+{
+    return QByteArray(1, char(value & 0xFF)) + QByteArray(1, char((value >> 8) & 0xFF));
+}
+
+QByteArray readAll(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class TestDirecData : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void emptyRecordIsAllZero();
+    void fieldsAtTheirOffsets_data();
+    void fieldsAtTheirOffsets();
+    void textsArePaddedAndCut_data();
+    void textsArePaddedAndCut();
+    void anyBytesRoundTrip();
+    void shortAndLongFiles_data();
+    void shortAndLongFiles();
+    void missingFileIsCreatedEmpty();
+    void writeThenRead();
+    void interruptedWriteKeepsTheOldRecord();
+    void unwritableFolderKeepsTheOldRecord();
+};
+
+void TestDirecData::emptyRecordIsAllZero()
+{
+    const QByteArray bytes = DirecDataRecord().toBytes();
+    QCOMPARE(bytes.size(), 1547);
+    QCOMPARE(bytes, QByteArray(1547, '\0'));
+    QCOMPARE(FixedText(DirecDataRecord().CommentFontName), QString());
+}
+
+void TestDirecData::fieldsAtTheirOffsets_data()
+{
+    QTest::addColumn<int>("offset");
+    QTest::addColumn<QByteArray>("expected");
+
+    // One record with a distinct value in each kind of field.
+    QTest::newRow("PictureEditorPath") << 0 << padded("Z:\\usr\\bin\\gimp", 100);
+    QTest::newRow("CommentEditorPath") << 100 << padded("Z:\\usr\\bin\\gedit", 100);
+    QTest::newRow("InternetViewerPath") << 800 << padded("Z:\\usr\\bin\\xdg-open", 100);
+    QTest::newRow("CommentFontName") << 900 << QByteArray("MS UI Gothic   ");
+    QTest::newRow("CommentFontSize") << 915 << padded("9", 15);
+    QTest::newRow("CommentBackColor") << 930 << QByteArray("&H00FF8080&    ");
+    QTest::newRow("TextBackColor") << 1005 << padded("0", 15);
+    QTest::newRow("PictBackColor") << 1080 << padded("12632256", 15);
+    QTest::newRow("AutoPageInterval") << 1095 << le16(3);
+    QTest::newRow("NormalWindowLeft") << 1097 << le16(-15);
+    QTest::newRow("NormalWindowHeight") << 1103 << le16(8500);
+    QTest::newRow("MainWindowLeft") << 1105 << le16(300);
+    QTest::newRow("MainWindowHeight") << 1111 << le16(32767);
+    QTest::newRow("OriginalSizeOn true") << 1113 << le16(-1);
+    QTest::newRow("CyberViewOn false") << 1115 << le16(0);
+    QTest::newRow("HtmlDelFolderFlag") << 1117 << le16(1);
+    QTest::newRow("FormSaveImage 5th") << 1127 << le16(5);
+    QTest::newRow("FormModPic 1st") << 1129 << le16(2);
+    QTest::newRow("FormModPic text 2") << 1148 << padded("&HFF&", 15);
+    QTest::newRow("FormModPic 4th") << 1165 << le16(7);
+    QTest::newRow("FormPastComment height") << 1173 << le16(4000);
+    QTest::newRow("LastListFile Shift-JIS")
+        << 1445 << padded(cp932({'C', ':', '\\', 0x83, 0x74, 0x83, 0x40, 0x83, 0x43, 0x83, 0x8B,
+                                 '.', 'l', 's', 't'}),
+                          100);
+    QTest::newRow("ListAutoStart true") << 1545 << le16(-1);
+}
+
+void TestDirecData::fieldsAtTheirOffsets()
+{
+    QFETCH(int, offset);
+    QFETCH(QByteArray, expected);
+    DirecDataRecord r;
+    r.PictureEditorPath = QStringLiteral("Z:\\usr\\bin\\gimp");
+    r.CommentEditorPath = QStringLiteral("Z:\\usr\\bin\\gedit");
+    r.InternetViewerPath = QStringLiteral("Z:\\usr\\bin\\xdg-open");
+    r.CommentFontName = QStringLiteral("MS UI Gothic");
+    r.CommentFontSize = QStringLiteral("9");
+    r.CommentBackColor = QStringLiteral("&H00FF8080&");
+    r.TextBackColor = QStringLiteral("0");
+    r.PictBackColor = QStringLiteral("12632256");
+    r.AutoPageInterval = 3;
+    r.NormalWindowLeft = -15;
+    r.NormalWindowHeight = 8500;
+    r.MainWindowLeft = 300;
+    r.MainWindowHeight = 32767;
+    r.OriginalSizeOn = kTrue;
+    r.CyberViewOn = kFalse;
+    r.HtmlDelFolderFlag = 1;
+    r.SaveImageValues[4] = 5;
+    r.ModPicValues[0] = 2;
+    r.ModPicTexts[1] = QStringLiteral("&HFF&");
+    r.ModPicValues2[1] = 7;
+    r.PastCommentHeight = 4000;
+    r.LastListFile = QStringLiteral("C:\\ファイル.lst");
+    r.ListAutoStart = kTrue;
+
+    const QByteArray bytes = r.toBytes();
+    QCOMPARE(bytes.size(), 1547);
+    QCOMPARE(bytes.mid(offset, expected.size()), expected);
+    // And read back from the bytes, the whole record is the same.
+    QCOMPARE(DirecDataRecord::fromBytes(bytes).toBytes(), bytes);
+}
+
+void TestDirecData::textsArePaddedAndCut_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("fixedText");
+    QTest::newRow("short, blank-padded") << "9" << QByteArray("9              ") << "9";
+    QTest::newRow("exact") << "123456789012345" << QByteArray("123456789012345")
+                           << "123456789012345";
+    QTest::newRow("long, cut") << "IPAPGothic Extra" << QByteArray("IPAPGothic Extr")
+                               << "IPAPGothic Extr";
+    // 8 double-byte characters need 16 bytes: the last whole one is dropped.
+    QTest::newRow("Japanese cut at a character")
+        << "ＭＳ　Ｐゴシック体" << padded(cp932({0x82, 0x6C, 0x82, 0x72, 0x81, 0x40, 0x82, 0x6F,
+                                         0x83, 0x53, 0x83, 0x56, 0x83, 0x62}),
+                                  15)
+        << "ＭＳ　Ｐゴシッ";
+    QTest::newRow("not CP932: UTF-8") << "한글" << padded("\xED\x95\x9C\xEA\xB8\x80", 15)
+                                      << "한글";
+}
+
+void TestDirecData::textsArePaddedAndCut()
+{
+    QFETCH(QString, text);
+    QFETCH(QByteArray, bytes);
+    FixedString<15> field;
+    field = text;
+    QCOMPARE(field.bytes(), bytes);
+    QCOMPARE(FixedText(field), QFETCH(QString, fixedText));
+}
+
+void TestDirecData::anyBytesRoundTrip()
+{
+    // A damaged record reads without harm and writes back byte for byte.
+    QByteArray garbage(1547, '\0');
+    QRandomGenerator random(42);
+    for (char& c : garbage)
+        c = char(random.bounded(256));
+    const DirecDataRecord record = DirecDataRecord::fromBytes(garbage);
+    QCOMPARE(record.toBytes(), garbage);
+    (void)FixedText(record.CommentFontName); // decodes without trouble
+}
+
+void TestDirecData::shortAndLongFiles_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<int>("autoPageInterval");
+    QTest::addColumn<QString>("commentFont");
+    QByteArray full = DirecDataRecord().toBytes();
+    full.replace(900, 5, "Arial");
+    full[1095] = 7;
+    QTest::newRow("empty file") << QByteArray() << 0 << "";
+    QTest::newRow("short: font only") << full.left(910) << 0 << "Arial";
+    QTest::newRow("cut inside the integer") << full.left(1096) << 7 << "Arial";
+    QTest::newRow("long: record 1 only") << full + QByteArray(500, 'x') << 7 << "Arial";
+}
+
+void TestDirecData::shortAndLongFiles()
+{
+    QFETCH(QByteArray, content);
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("DirecData.ran"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    file.close();
+    const DirecDataRecord record = readDirecData(path);
+    QCOMPARE(int(record.AutoPageInterval), QFETCH(int, autoPageInterval));
+    QCOMPARE(FixedText(record.CommentFontName), QFETCH(QString, commentFont));
+    QCOMPARE(readAll(path), content); // reading never changes the file
+}
+
+void TestDirecData::missingFileIsCreatedEmpty()
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("DirecData.ran"));
+    const DirecDataRecord record = readDirecData(path);
+    QVERIFY(QFile::exists(path));
+    QCOMPARE(record.toBytes(), DirecDataRecord().toBytes());
+}
+
+void TestDirecData::writeThenRead()
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("DirecData.ran"));
+    DirecDataRecord record;
+    record.TextFontName = QStringLiteral("IPAPGothic");
+    record.ListAutoStart = kTrue;
+    QVERIFY(writeDirecData(path, record));
+    QCOMPARE(readAll(path).size(), 1547);
+    QVERIFY(readDirecData(path) == record);
+}
+
+void TestDirecData::interruptedWriteKeepsTheOldRecord()
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("DirecData.ran"));
+    DirecDataRecord old;
+    old.CommentFontName = QStringLiteral("Old");
+    QVERIFY(writeDirecData(path, old));
+
+    // A child process writes a new record and dies before the write is done.
+    const pid_t child = fork();
+    QVERIFY(child >= 0);
+    if (child == 0) {
+        lumen::testing::setBeforeCommitHook([] { _exit(3); });
+        DirecDataRecord fresh;
+        fresh.CommentFontName = QStringLiteral("New");
+        writeDirecData(path, fresh);
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    QVERIFY(WIFEXITED(status));
+    QCOMPARE(WEXITSTATUS(status), 3);
+    QCOMPARE(readAll(path), old.toBytes());
+}
+
+void TestDirecData::unwritableFolderKeepsTheOldRecord()
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("missing-folder/DirecData.ran"));
+    QVERIFY(!writeDirecData(path, DirecDataRecord()));
+    QVERIFY(!QFile::exists(path));
+}
+
+QTEST_GUILESS_MAIN(TestDirecData)
+#include "tst_DirecData.moc"
