@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <functional>
 #include <optional>
 
 namespace lumen {
@@ -18,5 +19,15 @@ bool writeTextFileSafely(const QString& nativePath, const QString& text);
 
 // Reads and decodes a whole text file; nothing when it can't be read.
 std::optional<QString> readTextFile(const QString& nativePath);
+
+namespace testing {
+
+// Test seam: `hook` runs inside writeFileSafely after every byte has gone to
+// the temporary file and just before it is renamed over the target, so a test
+// can end the process there and look at what a crash leaves behind. An empty
+// function removes it. Never set outside tests.
+void setBeforeCommitHook(std::function<void()> hook);
+
+} // namespace testing
 
 } // namespace lumen

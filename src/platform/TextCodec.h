@@ -18,13 +18,19 @@ QString decode(const QByteArray& bytes);
 QString decodeCp932(const QByteArray& bytes);
 
 // CP932 bytes of the text, or nothing when a character has no CP932 form.
+// Characters that iconv maps one way only ("¥" to "\", "−" to "－") count as
+// having none: they would read back as other characters.
 std::optional<QByteArray> encodeCp932(const QString& text);
 
 // The bytes written for a text file: CP932 if it fits, else BOM + UTF-8.
+// CP932 bytes that would read back as UTF-8 (a few runs of half-width kana
+// form valid UTF-8) are written as BOM + UTF-8 too, so decode() always gives
+// the text back.
 QByteArray encodeForFile(const QString& text);
 
 // A fixed-width record field: CP932 if it fits, else UTF-8; cut at a
-// character boundary so that it fits `width` bytes (not padded).
+// character boundary so that it fits `width` bytes (not padded). As with
+// files, CP932 that would read back as UTF-8 is given as UTF-8.
 QByteArray encodeField(const QString& text, int width);
 
 // Lines of a text as a line-by-line reader gives them: parted at CR LF, LF or

@@ -1,0 +1,56 @@
+#include "platform/SafeFile.h"
+
+#include "platform/TextCodec.h"
+
+#include <QFile>
+#include <QSaveFile>
+
+#include <utility>
+
+namespace lumen {
+
+namespace {
+
+std::function<void()>& beforeCommitHook() {
+    static std::function<void()> hook;
+    return hook;
+}
+
+} // namespace
+
+bool writeFileSafely(const QString& nativePath, const QByteArray& bytes) {
+    QSaveFile file(nativePath);
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    if (file.write(bytes) != bytes.size()) {
+        file.cancelWriting();
+        return false;
+    }
+    if (const auto& hook = beforeCommitHook())
+        hook();
+    return file.commit();
+}
+
+bool writeTextFileSafely(const QString& nativePath, const QString& text) {
+    return writeFileSafely(nativePath, text::encodeForFile(text));
+}
+
+std::optional<QString> readTextFile(const QString& nativePath) {
+    QFile file(nativePath);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return std::nullopt;
+    return text::decode(bytes);
+}
+
+namespace testing {
+
+void setBeforeCommitHook(std::function<void()> hook) {
+    beforeCommitHook() = std::move(hook);
+}
+
+} // namespace testing
+
+} // namespace lumen

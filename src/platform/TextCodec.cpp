@@ -1,0 +1,167 @@
+#include "platform/TextCodec.h"
+
+#include <QByteArrayView>
+#include <QSysInfo>
+
+#include <algorithm>
+#include <cstring>
+#include <iconv.h>
+
+namespace lumen::text {
+
+namespace {
+
+const char* const kUtf16 = QSysInfo::ByteOrder == QSysInfo::LittleEndian ? "UTF-16LE" : "UTF-16BE";
+const char kCp932[] = "CP932";
+const QByteArrayView kUtf8Bom("\xEF\xBB\xBF");
+
+// An iconv conversion descriptor, closed when it goes out of scope.
+class Converter {
+public:
+    Converter(const char* to, const char* from)
+        : cd_(iconv_open(to, from)) {}
+    ~Converter() {
+        if (valid())
+            iconv_close(cd_);
+    }
+    Converter(const Converter&) = delete;
+    Converter& operator=(const Converter&) = delete;
+
+    bool valid() const { return cd_ != iconv_t(-1); }
+
+    // Converts as far as it can; false where it stopped early, errno says why.
+    bool convert(const char*& in, std::size_t& inLeft, char*& out, std::size_t& outLeft) {
+        return iconv(cd_, const_cast<char**>(&in), &inLeft, &out, &outLeft) != std::size_t(-1);
+    }
+
+private:
+    iconv_t cd_;
+};
+
+// CP932 bytes that also form UTF-8 holding non-ASCII bytes would be read back
+// as UTF-8: a few runs of half-width kana do ("ﾃｽ" is C3 BD, "ý" in UTF-8).
+bool readsAsUtf8(QByteArrayView bytes) {
+    return bytes.isValidUtf8() &&
+           !std::all_of(bytes.begin(), bytes.end(), [](char byte) { return uchar(byte) < 0x80; });
+}
+
+bool isCp932LeadByte(uchar byte) {
+    return (byte >= 0x81 && byte <= 0x9F) || byte >= 0xE0;
+}
+
+// The longest start of CP932 bytes that fits `width` without halving a
+// double-byte character. The bytes come from encodeCp932, so they are whole.
+QByteArray cutCp932(const QByteArray& bytes, int width) {
+    qsizetype end = 0;
+    while (end < bytes.size()) {
+        const qsizetype next = end + (isCp932LeadByte(uchar(bytes[end])) ? 2 : 1);
+        if (next > width)
+            break;
+        end = next;
+    }
+    return bytes.left(end);
+}
+
+QByteArray cutUtf8(const QByteArray& bytes, int width) {
+    if (bytes.size() <= width)
+        return bytes;
+    qsizetype end = width;
+    while (end > 0 && (uchar(bytes[end]) & 0xC0) == 0x80) // a continuation byte
+        --end;
+    return bytes.left(end);
+}
+
+} // namespace
+
+QString decode(const QByteArray& bytes) {
+    if (bytes.startsWith(kUtf8Bom))
+        return QString::fromUtf8(QByteArrayView(bytes).sliced(kUtf8Bom.size()));
+    if (QByteArrayView(bytes).isValidUtf8()) // pure ASCII too: it reads the same either way
+        return QString::fromUtf8(bytes);
+    return decodeCp932(bytes);
+}
+
+QString decodeCp932(const QByteArray& bytes) {
+    // Every CP932 character and every bad byte gives one UTF-16 unit.
+    QString text(bytes.size(), Qt::Uninitialized);
+    char* const begin = reinterpret_cast<char*>(text.data());
+    char* out = begin;
+    std::size_t outLeft = std::size_t(text.size()) * sizeof(char16_t);
+    const char* in = bytes.constData();
+    std::size_t inLeft = std::size_t(bytes.size());
+
+    Converter cp932(kUtf16, kCp932);
+    while (inLeft > 0) {
+        // One call converts everything up to the next bad byte (or the end).
+        if (cp932.valid() && cp932.convert(in, inLeft, out, outLeft))
+            break;
+        if (outLeft < sizeof(char16_t)) // can't happen, see above; never write past the end
+            break;
+        // A byte that isn't CP932, or a lead byte cut off at the end.
+        const char16_t replacement = QChar::ReplacementCharacter;
+        std::memcpy(out, &replacement, sizeof replacement);
+        out += sizeof replacement;
+        outLeft -= sizeof replacement;
+        ++in;
+        --inLeft;
+    }
+    text.truncate((out - begin) / qsizetype(sizeof(char16_t)));
+    return text;
+}
+
+std::optional<QByteArray> encodeCp932(const QString& text) {
+    Converter cp932(kCp932, kUtf16);
+    if (!cp932.valid())
+        return std::nullopt;
+    // A UTF-16 unit gives at most two bytes.
+    QByteArray bytes(text.size() * 2, Qt::Uninitialized);
+    const char* in = reinterpret_cast<const char*>(text.utf16());
+    std::size_t inLeft = std::size_t(text.size()) * sizeof(char16_t);
+    char* out = bytes.data();
+    std::size_t outLeft = std::size_t(bytes.size());
+    if (!cp932.convert(in, inLeft, out, outLeft) || inLeft != 0)
+        return std::nullopt;
+    bytes.truncate(out - bytes.constData());
+
+    // iconv maps a few characters one way only ("¥" to "\", "−" to "－", "〜"
+    // to "～"); they would read back as other characters, so they don't fit.
+    if (decodeCp932(bytes) != text)
+        return std::nullopt;
+    return bytes;
+}
+
+QByteArray encodeForFile(const QString& text) {
+    if (const auto cp932 = encodeCp932(text); cp932 && !readsAsUtf8(*cp932))
+        return *cp932;
+    return kUtf8Bom.toByteArray() + text.toUtf8();
+}
+
+QByteArray encodeField(const QString& text, int width) {
+    if (width <= 0)
+        return QByteArray();
+    if (const auto cp932 = encodeCp932(text)) {
+        QByteArray field = cutCp932(*cp932, width);
+        if (!readsAsUtf8(field))
+            return field;
+    }
+    return cutUtf8(text.toUtf8(), width);
+}
+
+QStringList splitLines(const QString& text) {
+    QStringList lines;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text[i];
+        if (c != u'\r' && c != u'\n')
+            continue;
+        lines.append(text.mid(start, i - start));
+        if (c == u'\r' && i + 1 < text.size() && text[i + 1] == u'\n')
+            ++i;
+        start = i + 1;
+    }
+    if (start < text.size())
+        lines.append(text.mid(start));
+    return lines;
+}
+
+} // namespace lumen::text
