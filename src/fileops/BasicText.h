@@ -7,6 +7,8 @@
 
 #include <QString>
 
+class QDateTime;
+
 namespace lumen {
 
 // Trims blanks at both ends and cuts CR, LF and NUL from the end, over and
@@ -32,7 +34,7 @@ QString CollapseDoubleBackslash(const QString& path); // the first "\\" only
 QString SerchAndReplace(const QString& source, const QString& find, const QString& replacement);
 
 // "2026_11_15_14_05_09" for the given moment.
-QString MakeDateTimeStamp(const class QDateTime& moment);
+QString MakeDateTimeStamp(const QDateTime& moment);
 
 // Splits "from,to" at the first comma. Without a comma the whole text is
 // "from" and "to" is empty.

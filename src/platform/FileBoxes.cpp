@@ -9,7 +9,9 @@ QString rootOf(const QString& path) { return path.left(2).toUpper() + QLatin1Cha
 
 QString joinPath(const QString& folder, const QString& name)
 {
-    return folder.endsWith(QLatin1Char('\\')) ? folder + name : folder + QLatin1Char('\\') + name;
+    if (folder.endsWith(QLatin1Char('\\')))
+        return folder + name;
+    return folder + QLatin1Char('\\') + name;
 }
 
 // "C:\a\b" -> ["C:\", "C:\a", "C:\a\b"]

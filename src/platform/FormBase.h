@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+class QEventLoop;
+
 namespace lumen {
 
 class FormBase : public QWidget {
@@ -40,7 +42,7 @@ protected:
 private:
     bool loaded_ = false;
     bool inLoad_ = false;
-    class QEventLoop* modalLoop_ = nullptr;
+    QEventLoop* modalLoop_ = nullptr;
 };
 
 } // namespace lumen
