@@ -4,6 +4,10 @@
 //   ' comment
 //   D = /media/cdrom, /dev/sr0
 //   E = /media/usb
+// A line whose first non-blank character is "'" is a comment. The letter may
+// be given with or without its colon and in either case; the folder must be
+// absolute ("~" stands for the home). The CD device follows the last comma
+// and must be a native path, so a comma inside a folder name is kept.
 #pragma once
 
 #include <QChar>
@@ -13,8 +17,8 @@
 namespace lumen {
 
 struct Drive {
-    QString root;      // native folder, absolute, without a trailing "/" (but "/" itself)
-    QString cdDevice;  // native device of an audio CD drive, or empty
+    QString root;     // native folder, absolute, without a trailing "/" (but "/" itself)
+    QString cdDevice; // native device of an audio CD drive, or empty
 };
 
 class DriveMap {
@@ -29,12 +33,15 @@ public:
     static QString defaultDrivesText();
 
     bool hasDrive(QChar letter) const;
-    Drive drive(QChar letter) const;  // empty Drive when unknown
-    QList<QChar> letters() const;     // in alphabetical order
+    Drive drive(QChar letter) const; // empty Drive when unknown
+    QList<QChar> letters() const;    // in alphabetical order
     QString home() const { return home_; }
 
-    // Native absolute path to program form: the longest matching root wins,
-    // so /home/me/a.jpg is C:\a.jpg and /srv/a.jpg is Z:\srv\a.jpg.
+    // Native path to program form: the longest matching root wins, so
+    // /home/me/a.jpg is C:\a.jpg and /srv/a.jpg is Z:\srv\a.jpg; a root
+    // matches only whole folder names (/home/meat is not under /home/me).
+    // A relative path is taken against the process's working folder first;
+    // an empty path gives "". Equal roots go to the first letter.
     QString toProgram(const QString& nativePath) const;
 
     // The native root of a program-form path's drive ("C:\x" -> "/home/me"),

@@ -2,14 +2,19 @@
 // native ones at this boundary. Names are matched exactly first and then
 // without regard to case, part by part (the first in byte order wins when two
 // differ only in case); "/" is taken as "\"; trailing blanks and dots of each
-// part are dropped; a part beginning with "." is hidden. The layer keeps a
-// current folder in program form, against which relative paths resolve.
+// part are dropped; "." and ".." parts step as usual (".." stops at the drive
+// root); a part beginning with "." is hidden. The layer keeps a current folder
+// in program form, against which relative paths resolve: "a.jpg" and
+// "sub\a.jpg" from the current folder, "\a.jpg" from the root of its drive,
+// "C:a.jpg" from the current folder when it is on C: and from C:\ otherwise.
 #pragma once
 
 #include "platform/Drives.h"
 
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 namespace lumen {
 
@@ -23,53 +28,76 @@ public:
     const DriveMap& drives() const { return drives_; }
 
     // Reads Drives.txt in the given native folder, writing its default first
-    // when it is missing.
+    // when it is missing. The drive map is built anew from the home folder
+    // and the file's lines.
     void loadDrivesFile(const QString& nativeFolder);
 
+    // The current folder, absolute, without a trailing "\" except at a drive
+    // root ("C:\", "C:\shows"), with the names as they stand on disk.
     QString curDir() const { return current_; }
     bool chDir(const QString& programPath); // false when it isn't a folder
 
     // Program form to native, each part resolved as above. Parts that don't
-    // exist are kept as given. An address ("://") or a path without a known
-    // drive resolves against the current folder.
+    // exist are kept as given. An address ("://"), an empty text and a path
+    // on a drive letter that isn't known give "": callers treat that as a
+    // missing file (mind that QDir("") is the working folder).
     QString toNative(const QString& programPath) const;
     QString toProgram(const QString& nativePath) const { return drives_.toProgram(nativePath); }
 
     // Dir(path): the name (no folder) of the first normal file that the path
     // names, or "" when none. "*" and "?" act as wildcards only when no file
     // has the literal name. Folders, hidden names and names that don't fit
-    // the program form are left out; matching ignores case, and "*.*" also
-    // matches names without a dot.
+    // the program form are left out; matching ignores case, and a pattern
+    // ending in ".*" also matches names without that dot ("*.*" matches
+    // "README"). The name is given as it stands on disk; with wildcards the
+    // first in the order of `files`. A path ending in "\" lists its folder.
     QString dir(const QString& pathOrPattern) const;
 
-    bool isFile(const QString& programPath) const;   // normal, non-hidden file
-    bool isFolder(const QString& programPath) const; // folder (followed links too)
-    qint64 fileLength(const QString& programPath) const; // -1 when missing
+    bool isFile(const QString& programPath) const;       // normal, non-hidden file
+    bool isFolder(const QString& programPath) const;     // folder (followed links too)
+    bool isLink(const QString& programPath) const;       // a symbolic link itself
+    qint64 fileLength(const QString& programPath) const; // -1 when missing or a folder
 
-    // Sorted names in a folder; hidden names, names with "\" or bytes that
-    // aren't UTF-8 are left out.
-    QStringList files(const QString& programFolder, const QString& pattern = QStringLiteral("*.*")) const;
+    // Sorted names in a folder, without regard to case and then in byte
+    // order; hidden names, names with "\" or bytes that aren't UTF-8 are left
+    // out. `files` gives normal files matching the pattern as `dir` matches;
+    // `folders` gives folders, linked ones included.
+    QStringList files(const QString& programFolder,
+                      const QString& pattern = QStringLiteral("*.*")) const;
     QStringList folders(const QString& programFolder) const;
 
     bool makeFolder(const QString& programPath);           // one level; false if it exists
-    bool copyFile(const QString& from, const QString& to); // replaces "to"
-    bool renameFile(const QString& from, const QString& to); // fails if "to" exists
-    bool deleteFile(const QString& programPath);           // a link goes, never its target
+    bool copyFile(const QString& from, const QString& to); // replaces "to"; keeps the mode bits
+    // Renames or moves; fails if "to" exists, unless only the case of the
+    // name changes. A "/" after the last "\" of "to" is refused: the new
+    // name would hold a character that the program form can't spell.
+    bool renameFile(const QString& from, const QString& to);
+    bool deleteFile(const QString& programPath); // a link goes, never its target
 
-    // Attribute word: 1 not writable, 2 hidden (dot name), 16 folder, summed;
-    // -1 when the path doesn't exist.
+    // Attribute word: 1 not writable (the owner's write bit is clear), 2
+    // hidden (dot name), 16 folder, summed; -1 when the path doesn't exist.
     int attributes(const QString& programPath) const;
     bool clearAttributes(const QString& programPath); // chmod u+w
 
     // Deletes a folder and everything in it, links removed without being
-    // followed. Refuses drive roots, the home folder, the folder given as
-    // protected (the data folder) and its ancestors, roots of Drives.txt and
-    // mount points.
+    // followed and other file systems inside not entered (that is Failed).
+    // Refuses drive roots, the home folder, the folders given as protected
+    // (the data folder), any folder holding one of those, and mount points.
+    // A link to a folder is removed itself. Missing when no folder is there.
     TreeDeleteResult deleteTree(const QString& programPath);
     void addProtectedFolder(const QString& programPath);
 
 private:
-    QString resolve(const QString& programPath) const;
+    // A program-form path made absolute: its drive letter and clean names.
+    struct Parts {
+        QChar drive;
+        QStringList names;
+    };
+    std::optional<Parts> absolute(const QString& programPath) const;
+    Parts resolved(const Parts& path) const; // names as found on disk
+    QString nativeOf(const Parts& path) const;
+    bool isGuarded(const QString& nativeFolder) const;
+
     DriveMap drives_;
     QString current_;
     QStringList protected_;

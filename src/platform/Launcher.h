@@ -11,25 +11,29 @@ namespace lumen {
 class FileSystem;
 
 // The Windows launcher's rule: the shortest blank-separated prefix that names
-// an existing executable file is the program; the rest is split at blanks,
-// and words holding ":\" become native paths. Nothing when no prefix names a
-// program. Returns native argv.
+// an existing executable file (a file, not a folder, with an exec bit set) is
+// the program; the rest is split at blanks, and words holding ":\" become
+// native paths (one on an unknown drive stays as written). Leading blanks are
+// passed over; there is no quoting and no search of PATH. Nothing when no
+// prefix names a program. Returns native argv.
 std::optional<QStringList> splitCommandLine(const QString& commandLine, const FileSystem& fs);
 
 class Launcher {
 public:
     virtual ~Launcher() = default;
-    // Starts the command line detached; false when it names no program or
-    // the start failed.
+    // Starts the command line detached, in the current folder; false when it
+    // names no program or the start failed.
     virtual bool shell(const QString& commandLine) = 0;
-    // Hands a file to the desktop's opener (xdg-open): 42 on success, 2 when
-    // the file or the opener is missing, as ShellExecute answered.
+    // Hands a file or folder to the desktop's opener (xdg-open on PATH): 42
+    // on success, 2 when the path, the opener or its start fails, as
+    // ShellExecute answered.
     virtual int shellExecuteOpen(const QString& programPath) = 0;
 };
 
 class ProcessLauncher : public Launcher {
 public:
-    explicit ProcessLauncher(const FileSystem& fs) : fs_(fs) {}
+    explicit ProcessLauncher(const FileSystem& fs)
+        : fs_(fs) {}
     bool shell(const QString& commandLine) override;
     int shellExecuteOpen(const QString& programPath) override;
 

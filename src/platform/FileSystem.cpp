@@ -1,0 +1,465 @@
+#include "platform/FileSystem.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <QStringDecoder>
+
+#include <algorithm>
+#include <filesystem>
+#include <sys/stat.h>
+#include <utility>
+
+namespace lumen {
+
+namespace {
+
+constexpr QChar kSeparator = u'\\';
+
+QString joinNative(const QString& folder, const QString& name) {
+    if (folder.endsWith(u'/'))
+        return folder + name;
+    return folder + u'/' + name;
+}
+
+QString chopTrailing(QString text, QStringView characters) {
+    while (!text.isEmpty() && characters.contains(text.back()))
+        text.chop(1);
+    return text;
+}
+
+bool isHiddenName(const QString& name) {
+    return name.startsWith(u'.');
+}
+
+bool hasWildcards(const QString& name) {
+    return name.contains(u'*') || name.contains(u'?');
+}
+
+bool isDriveSpec(const QString& text) {
+    return text.size() >= 2 && text.at(1) == u':';
+}
+
+// Also true for a link whose target is gone.
+bool existsOrLink(const QString& native) {
+    const QFileInfo info(native);
+    return info.exists() || info.isSymLink();
+}
+
+// A name the program form can spell holds no "\". Names whose bytes aren't
+// UTF-8 decode to U+FFFD and so name no file: the type filters of the
+// listings (files, folders) leave them out already.
+bool fitsProgramForm(const QString& name) {
+    return !name.contains(kSeparator);
+}
+
+bool lessInByteOrder(const QString& a, const QString& b) {
+    return QFile::encodeName(a) < QFile::encodeName(b);
+}
+
+bool listingLess(const QString& a, const QString& b) {
+    const int order = QString::compare(a, b, Qt::CaseInsensitive);
+    return order != 0 ? order < 0 : lessInByteOrder(a, b);
+}
+
+// The entry of `folder` that is `name` when case is ignored; the first in
+// byte order when there are several, "" when none.
+QString findIgnoringCase(const QString& folder, const QString& name) {
+    const QStringList entries = QDir(folder).entryList(
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
+    QString best;
+    for (const QString& entry : entries) {
+        if (entry.compare(name, Qt::CaseInsensitive) != 0 || !fitsProgramForm(entry))
+            continue;
+        if (best.isEmpty() || lessInByteOrder(entry, best))
+            best = entry;
+    }
+    return best;
+}
+
+// The entry of `folder` called `name`, exactly or else ignoring case.
+QString findEntry(const QString& folder, const QString& name) {
+    return existsOrLink(joinNative(folder, name)) ? name : findIgnoringCase(folder, name);
+}
+
+QString wildcardExpression(const QString& pattern) {
+    QString expression;
+    for (const QChar c : pattern) {
+        if (c == u'*')
+            expression += QStringLiteral(".*");
+        else if (c == u'?')
+            expression += u'.';
+        else
+            expression += QRegularExpression::escape(QString(c));
+    }
+    return expression;
+}
+
+// "*" and "?" only (no classes), without regard to case; "x.*" also
+// matches "x".
+QRegularExpression wildcardPattern(const QString& pattern) {
+    QString expression = wildcardExpression(pattern);
+    if (pattern.endsWith(u".*"))
+        expression += u'|' + wildcardExpression(pattern.chopped(2));
+    return QRegularExpression(QStringLiteral("\\A(?:") + expression + QStringLiteral(")\\z"),
+                              QRegularExpression::CaseInsensitiveOption);
+}
+
+QStringList sortedForListing(QStringList names) {
+    std::sort(names.begin(), names.end(), listingLess);
+    return names;
+}
+
+// Normal files of a native folder that match the pattern, in listing order.
+QStringList matchingFiles(const QString& folder, const QString& pattern) {
+    const QRegularExpression match = wildcardPattern(pattern);
+    QStringList names;
+    // Without QDir::Hidden the dot names stay out.
+    for (const QString& name : QDir(folder).entryList(QDir::Files, QDir::Unsorted)) {
+        if (match.match(name).hasMatch() && fitsProgramForm(name))
+            names.append(name);
+    }
+    return sortedForListing(names);
+}
+
+bool isNormalFile(const QString& native) {
+    const QFileInfo info(native);
+    return info.isFile() && !isHiddenName(info.fileName());
+}
+
+// Appends the parts of a program-form path (separators already "\") to
+// `names`, stepping over "." and "..", dropping trailing blanks and dots.
+void appendParts(QStringList& names, const QString& path) {
+    for (const QString& part : path.split(kSeparator, Qt::SkipEmptyParts)) {
+        const QString word = chopTrailing(part, u" ");
+        if (word == u".")
+            continue;
+        if (word == u"..") {
+            if (!names.isEmpty())
+                names.removeLast();
+            continue;
+        }
+        const QString name = chopTrailing(word, u" .");
+        if (!name.isEmpty())
+            names.append(name);
+    }
+}
+
+std::optional<dev_t> deviceOf(const QByteArray& path) {
+    struct stat status {};
+    if (::lstat(path.constData(), &status) != 0)
+        return std::nullopt;
+    return status.st_dev;
+}
+
+bool isMountPoint(const QString& native) {
+    const auto here = deviceOf(QFile::encodeName(native));
+    const auto parent = deviceOf(QFile::encodeName(joinNative(native, QStringLiteral(".."))));
+    return !here || !parent || *here != *parent;
+}
+
+bool isInsideOrSame(const QString& path, const QString& folder) {
+    return path == folder || folder == u"/" || path.startsWith(folder + u'/');
+}
+
+// Removes a real folder and everything in it, depth first. Links are removed
+// as links; folders on another device are left alone, so the walk fails.
+// Works on bytes, so names that aren't UTF-8 go too.
+bool removeTree(const std::filesystem::path& folder, dev_t device) {
+    namespace fs = std::filesystem;
+    std::error_code error;
+    bool removedAll = true;
+    // The owner must be able to list and empty the folder.
+    fs::permissions(folder, fs::perms::owner_all, fs::perm_options::add, error);
+    fs::directory_iterator entry(folder, error);
+    if (error)
+        return false;
+    for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+        std::error_code entryError;
+        const fs::path& path = entry->path();
+        if (entry->symlink_status(entryError).type() == fs::file_type::directory) {
+            const bool sameDevice = deviceOf(QByteArray(path.c_str())) == device;
+            removedAll = sameDevice && removeTree(path, device) && removedAll;
+        } else {
+            removedAll = fs::remove(path, entryError) && removedAll;
+        }
+    }
+    return fs::remove(folder, error) && removedAll;
+}
+
+} // namespace
+
+FileSystem::FileSystem(DriveMap drives, QString currentFolder)
+    : drives_(std::move(drives))
+    , current_(QStringLiteral("C:\\")) {
+    if (const auto path = absolute(currentFolder))
+        current_ = QString(path->drive) + u":\\" + path->names.join(kSeparator);
+}
+
+std::optional<FileSystem::Parts> FileSystem::absolute(const QString& programPath) const {
+    if (programPath.isEmpty() || programPath.contains(u"://"))
+        return std::nullopt;
+    QString text = programPath;
+    text.replace(u'/', kSeparator);
+
+    const Parts current{current_.at(0), current_.mid(3).split(kSeparator, Qt::SkipEmptyParts)};
+    Parts path = current;
+    if (isDriveSpec(text)) {
+        const QChar letter = text.at(0).toUpper();
+        if (!drives_.hasDrive(letter))
+            return std::nullopt;
+        text.remove(0, 2);
+        if (letter != current.drive || text.startsWith(kSeparator))
+            path = Parts{letter, {}};
+    } else if (text.startsWith(kSeparator)) {
+        path.names.clear();
+    }
+    appendParts(path.names, text);
+    return path;
+}
+
+FileSystem::Parts FileSystem::resolved(const Parts& path) const {
+    Parts found{path.drive, {}};
+    QString native = drives_.drive(path.drive).root;
+    bool exists = !native.isEmpty();
+    for (const QString& name : path.names) {
+        // Once a part is missing, the parts below it are kept as given.
+        const QString onDisk = exists ? findEntry(native, name) : QString();
+        exists = !onDisk.isEmpty();
+        found.names.append(exists ? onDisk : name);
+        native = joinNative(native, found.names.last());
+    }
+    return found;
+}
+
+QString FileSystem::nativeOf(const Parts& path) const {
+    QString native = drives_.drive(path.drive).root;
+    if (native.isEmpty())
+        return QString();
+    for (const QString& name : path.names)
+        native = joinNative(native, name);
+    return native;
+}
+
+QString FileSystem::toNative(const QString& programPath) const {
+    const auto path = absolute(programPath);
+    return path ? nativeOf(resolved(*path)) : QString();
+}
+
+void FileSystem::loadDrivesFile(const QString& nativeFolder) {
+    const QString fileName = QDir(nativeFolder).filePath(QStringLiteral("Drives.txt"));
+    if (!QFileInfo::exists(fileName)) {
+        QSaveFile out(fileName);
+        if (out.open(QIODevice::WriteOnly)) {
+            out.write(DriveMap::defaultDrivesText().toUtf8());
+            out.commit();
+        }
+    }
+    DriveMap drives(drives_.home());
+    QFile in(fileName);
+    if (in.open(QIODevice::ReadOnly)) {
+        QStringDecoder decode(QStringDecoder::Utf8);
+        drives.addFromText(decode(in.readAll()));
+    }
+    drives_ = drives;
+}
+
+bool FileSystem::chDir(const QString& programPath) {
+    const auto path = absolute(programPath);
+    if (!path)
+        return false;
+    const Parts onDisk = resolved(*path);
+    if (!QFileInfo(nativeOf(onDisk)).isDir())
+        return false;
+    current_ = QString(onDisk.drive) + u":\\" + onDisk.names.join(kSeparator);
+    return true;
+}
+
+QString FileSystem::dir(const QString& pathOrPattern) const {
+    if (pathOrPattern.isEmpty() || pathOrPattern.contains(u"://"))
+        return QString();
+    QString text = pathOrPattern;
+    text.replace(u'/', kSeparator);
+    qsizetype cut = text.lastIndexOf(kSeparator) + 1;
+    if (cut == 0 && isDriveSpec(text))
+        cut = 2;
+    const QString folder = toNative(cut == 0 ? current_ : text.left(cut));
+    const QString word = chopTrailing(text.mid(cut), u" ");
+    if (folder.isEmpty() || word == u"." || word == u"..")
+        return QString();
+    QString name = chopTrailing(word, u" .");
+    if (name.isEmpty())
+        name = QStringLiteral("*.*");
+
+    const QString literal = findEntry(folder, name);
+    if (!literal.isEmpty() && isNormalFile(joinNative(folder, literal)))
+        return literal;
+    if (!hasWildcards(name))
+        return QString();
+    return matchingFiles(folder, name).value(0);
+}
+
+bool FileSystem::isFile(const QString& programPath) const {
+    const QString native = toNative(programPath);
+    return !native.isEmpty() && isNormalFile(native);
+}
+
+bool FileSystem::isFolder(const QString& programPath) const {
+    const QString native = toNative(programPath);
+    return !native.isEmpty() && QFileInfo(native).isDir();
+}
+
+bool FileSystem::isLink(const QString& programPath) const {
+    const QString native = toNative(programPath);
+    return !native.isEmpty() && QFileInfo(native).isSymLink();
+}
+
+qint64 FileSystem::fileLength(const QString& programPath) const {
+    const QString native = toNative(programPath);
+    const QFileInfo info(native);
+    return !native.isEmpty() && info.isFile() ? info.size() : -1;
+}
+
+QStringList FileSystem::files(const QString& programFolder, const QString& pattern) const {
+    const QString folder = toNative(programFolder);
+    if (folder.isEmpty())
+        return {};
+    return matchingFiles(folder, pattern.isEmpty() ? QStringLiteral("*") : pattern);
+}
+
+QStringList FileSystem::folders(const QString& programFolder) const {
+    const QString folder = toNative(programFolder);
+    if (folder.isEmpty())
+        return {};
+    QStringList names;
+    // Without QDir::Hidden the dot-folders stay out.
+    for (const QString& name : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        if (fitsProgramForm(name))
+            names.append(name);
+    }
+    return sortedForListing(names);
+}
+
+bool FileSystem::makeFolder(const QString& programPath) {
+    const QString native = toNative(programPath);
+    return !native.isEmpty() && QDir().mkdir(native);
+}
+
+bool FileSystem::copyFile(const QString& from, const QString& to) {
+    const QString source = toNative(from);
+    const QString target = toNative(to);
+    if (source.isEmpty() || target.isEmpty() || !QFileInfo(source).isFile())
+        return false;
+    QFile in(source);
+    QSaveFile out(target);
+    if (!in.open(QIODevice::ReadOnly) || !out.open(QIODevice::WriteOnly))
+        return false;
+    constexpr qint64 kChunk = 1 << 20;
+    for (QByteArray chunk = in.read(kChunk); !chunk.isEmpty(); chunk = in.read(kChunk)) {
+        if (out.write(chunk) != chunk.size())
+            return false;
+    }
+    if (in.error() != QFileDevice::NoError || !out.commit())
+        return false;
+    return QFile::setPermissions(target, in.permissions());
+}
+
+bool FileSystem::renameFile(const QString& from, const QString& to) {
+    if (to.mid(to.lastIndexOf(kSeparator) + 1).contains(u'/'))
+        return false;
+    const QString source = toNative(from);
+    const auto targetPath = absolute(to);
+    if (source.isEmpty() || !existsOrLink(source) || !targetPath || targetPath->names.isEmpty())
+        return false;
+    QString target = nativeOf(resolved(*targetPath));
+    if (existsOrLink(target)) {
+        // Only a change of case of the same entry goes on, to the name as given.
+        const QString given = joinNative(QFileInfo(target).path(), targetPath->names.last());
+        if (target != source || given == source)
+            return false;
+        target = given;
+    }
+    return QFile::rename(source, target);
+}
+
+bool FileSystem::deleteFile(const QString& programPath) {
+    const QString native = toNative(programPath);
+    const QFileInfo info(native);
+    if (native.isEmpty() || (!info.isSymLink() && (!info.exists() || info.isDir())))
+        return false;
+    return QFile::remove(native);
+}
+
+int FileSystem::attributes(const QString& programPath) const {
+    const QString native = toNative(programPath);
+    const QFileInfo info(native);
+    if (native.isEmpty() || !existsOrLink(native))
+        return -1;
+    int value = 0;
+    if (info.exists() && !(info.permissions() & QFileDevice::WriteOwner))
+        value += 1;
+    if (isHiddenName(info.fileName()))
+        value += 2;
+    if (info.isDir())
+        value += 16;
+    return value;
+}
+
+bool FileSystem::clearAttributes(const QString& programPath) {
+    const QString native = toNative(programPath);
+    const QFileInfo info(native);
+    if (native.isEmpty() || !info.exists())
+        return false;
+    return QFile::setPermissions(native, info.permissions() | QFileDevice::WriteOwner);
+}
+
+void FileSystem::addProtectedFolder(const QString& programPath) {
+    protected_.append(programPath);
+}
+
+bool FileSystem::isGuarded(const QString& nativeFolder) const {
+    QStringList guarded{drives_.home()};
+    for (const QChar letter : drives_.letters())
+        guarded.append(drives_.drive(letter).root);
+    for (const QString& programPath : protected_)
+        guarded.append(toNative(programPath));
+
+    QStringList targets{nativeFolder};
+    const QFileInfo info(nativeFolder);
+    if (!info.isSymLink())
+        targets.append(info.canonicalFilePath());
+    for (const QString& folder : std::as_const(guarded)) {
+        if (folder.isEmpty())
+            continue;
+        const QStringList forms{folder, QFileInfo(folder).canonicalFilePath()};
+        for (const QString& form : forms) {
+            for (const QString& target : std::as_const(targets)) {
+                if (!form.isEmpty() && !target.isEmpty() && isInsideOrSame(form, target))
+                    return true;
+            }
+        }
+    }
+    return false;
+}
+
+TreeDeleteResult FileSystem::deleteTree(const QString& programPath) {
+    const QString native = toNative(programPath);
+    const QFileInfo info(native);
+    if (native.isEmpty() || !info.isDir())
+        return TreeDeleteResult::Missing;
+    if (isGuarded(native))
+        return TreeDeleteResult::Refused;
+    if (info.isSymLink())
+        return QFile::remove(native) ? TreeDeleteResult::Deleted : TreeDeleteResult::Failed;
+    if (isMountPoint(native))
+        return TreeDeleteResult::Refused;
+    const QByteArray bytes = QFile::encodeName(native);
+    const auto device = deviceOf(bytes);
+    if (device && removeTree(std::filesystem::path(bytes.toStdString()), *device))
+        return TreeDeleteResult::Deleted;
+    return TreeDeleteResult::Failed;
+}
+
+} // namespace lumen
