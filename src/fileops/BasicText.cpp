@@ -18,23 +18,24 @@ const QString kBackslash = QStringLiteral("\\");
 
 QString TrimLineEnds(QString& text)
 {
-    qsizetype before;
+    qsizetype start = 0;
+    qsizetype end = text.size();
+    bool cut;
     do {
-        before = text.size();
-        qsizetype start = 0;
-        qsizetype end = text.size();
         while (start < end && text[start] == QLatin1Char(' '))
             ++start;
         while (end > start && text[end - 1] == QLatin1Char(' '))
             --end;
-        while (end > start && isLineEnd(text[end - 1]))
+        cut = false;
+        while (end > start && isLineEnd(text[end - 1])) {
             --end;
-        text = text.mid(start, end - start);
-    } while (text.size() != before);
-    qsizetype start = 0;
-    while (start < text.size() && isLineEnd(text[start]))
+            cut = true;
+        }
+    } while (cut);
+    while (start < end && isLineEnd(text[start]))
         ++start;
-    text.remove(0, start);
+    if (start > 0 || end < text.size())
+        text = text.mid(start, end - start);
     return text;
 }
 
@@ -54,9 +55,8 @@ QString FixedText(const QString& field)
 
 QString FileNameOfPath(const QString& path)
 {
-    const QString separator = path.toUpper().contains(QLatin1String("://"))
-                                  ? QStringLiteral("/")
-                                  : kBackslash;
+    const QString separator =
+        path.toUpper().contains(QLatin1String("://")) ? QStringLiteral("/") : kBackslash;
     const qsizetype last = path.lastIndexOf(separator);
     return last < 0 ? path : path.mid(last + 1);
 }

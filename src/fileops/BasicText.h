@@ -20,12 +20,12 @@ QString TrimLineEnds(const QString& text);
 // A fixed record field as text: TrimLineEnds, leading NULs off, blanks trimmed.
 QString FixedText(const QString& field);
 
-QString FileNameOfPath(const QString& path);      // after the last "\" ("/" for addresses)
+QString FileNameOfPath(const QString& path);         // after the last "\" ("/" for addresses)
 QString NameAfterLastBackslash(const QString& path); // "" without a "\"
-QString FolderOfPath(const QString& path);        // up to and with the last "\"
+QString FolderOfPath(const QString& path);           // up to and with the last "\"
 QString LastFolderName(const QString& path);
-QString NameBeforeFirstDot(const QString& name);  // "" without a "."
-QString TextAfterFirstDot(const QString& name);   // "" without a "."
+QString NameBeforeFirstDot(const QString& name); // "" without a "."
+QString TextAfterFirstDot(const QString& name);  // "" without a "."
 QString StripTrailingBackslash(const QString& path);
 QString CollapseDoubleBackslash(const QString& path); // the first "\\" only
 

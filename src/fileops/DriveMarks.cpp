@@ -37,7 +37,8 @@ QString replaceListMarks(QString line, const QString& listFolder)
         if (dot < 0)
             dot = line.size();
         const qsizetype slash = line.lastIndexOf(QLatin1Char('\\'), dot - 1);
-        const QString rest = slash > mark ? line.mid(slash) : QLatin1Char('\\') + line.mid(mark + 2);
+        const QString rest =
+            slash > mark ? line.mid(slash) : QLatin1Char('\\') + line.mid(mark + 2);
         line = line.left(mark) + listFolder + rest;
         from = mark + listFolder.size();
     }

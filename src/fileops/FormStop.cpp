@@ -42,6 +42,9 @@ void FormStop::applyFont(const QString& family, int pointSize)
     LabelStop->setFont(font);
 }
 
-void FormStop::LabelStop_Click() { state_.StopRequested = true; }
+void FormStop::LabelStop_Click()
+{
+    state_.StopRequested = true;
+}
 
 } // namespace lumen

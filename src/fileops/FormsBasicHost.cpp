@@ -13,7 +13,10 @@ void FormsBasicHost::setMainCaption(const QString& caption)
         mainWindow->setWindowTitle(caption);
 }
 
-void FormsBasicHost::showStop() { stop_.showForm(); }
+void FormsBasicHost::showStop()
+{
+    stop_.showForm();
+}
 
 void FormsBasicHost::setStopText(const QString& text)
 {
@@ -21,7 +24,10 @@ void FormsBasicHost::setStopText(const QString& text)
     stop_.Text1->setText(text);
 }
 
-void FormsBasicHost::unloadStop() { stop_.unload(); }
+void FormsBasicHost::unloadStop()
+{
+    stop_.unload();
+}
 
 void FormsBasicHost::refreshFileControls()
 {

@@ -17,11 +17,13 @@ class FormStop;
 
 class FormsBasicHost : public BasicHost {
 public:
-    explicit FormsBasicHost(FormStop& stop) : stop_(stop) {}
+    explicit FormsBasicHost(FormStop& stop)
+        : stop_(stop)
+    {}
 
-    QPointer<QWidget> mainWindow;                           // FormMain
-    QList<std::function<void()>> fileControlRefreshers;     // one per window with file boxes
-    std::function<void(const QString& mark)> driveAsker;    // FormHatenaDrive
+    QPointer<QWidget> mainWindow;                        // FormMain
+    QList<std::function<void()>> fileControlRefreshers;  // one per window with file boxes
+    std::function<void(const QString& mark)> driveAsker; // FormHatenaDrive
 
     void setMainCaption(const QString& caption) override;
     void showStop() override;

@@ -45,15 +45,17 @@ VeroProcedure_Basical::VeroProcedure_Basical(ProgramState& state, const Services
     : state_(state)
     , services_(services)
     , host_(host)
-{
-}
+{}
 
 QString VeroProcedure_Basical::nativePath(const QString& path) const
 {
     return services_.fs.toNative(path);
 }
 
-void VeroProcedure_Basical::setCaption(const QString& caption) { host_.setMainCaption(caption); }
+void VeroProcedure_Basical::setCaption(const QString& caption)
+{
+    host_.setMainCaption(caption);
+}
 
 // ---- Existence tests -------------------------------------------------------
 
@@ -256,7 +258,10 @@ void VeroProcedure_Basical::CopyFileByPair(const QString& pair)
     setCaption(QString());
 }
 
-void VeroProcedure_Basical::RefreshFileControls() { host_.refreshFileControls(); }
+void VeroProcedure_Basical::RefreshFileControls()
+{
+    host_.refreshFileControls();
+}
 
 void VeroProcedure_Basical::WriteTextToFile(const QString& text, const QString& path)
 {
@@ -310,7 +315,10 @@ VeroProcedure_Basical::ReadResult VeroProcedure_Basical::readLinesChunked(const 
         ++lineNo;
         if (lineNo > kMaxLines)
             return fail(kErrorSubscript);
-        DoEvents();
+        // Events run every chunk of lines: a click on LabelStop is seen within
+        // microseconds, and a long list doesn't pay for a pump on every line.
+        if (lineNo % kChunkLines == 0)
+            DoEvents();
         if (state_.StopRequested || services_.clock.ending()) {
             host_.unloadStop();
             return ReadResult{};
@@ -364,7 +372,8 @@ int VeroProcedure_Basical::CleanListFile(const QString& path)
     if (read.kept > 0) {
         while (read.text.endsWith(QLatin1Char('\r')) || read.text.endsWith(QLatin1Char('\n')))
             read.text.chop(1);
-        WriteTextToFile(read.text, path);
+        read.text += kCrLf; // as WriteTextToFile prints it, without a second copy
+        writeTextFileSafely(nativePath(path), read.text);
         host_.unloadStop();
         WaitForFileReady(path);
     }
@@ -380,7 +389,10 @@ void VeroProcedure_Basical::WaitMilliseconds(double milliseconds)
     clock.waitUntil(target);
 }
 
-void VeroProcedure_Basical::DoEvents() { services_.clock.doEvents(); }
+void VeroProcedure_Basical::DoEvents()
+{
+    services_.clock.doEvents();
+}
 
 void VeroProcedure_Basical::WaitForFileReady(const QString& path)
 {

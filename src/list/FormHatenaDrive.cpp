@@ -88,8 +88,8 @@ void FormHatenaDrive::Form_Load()
         font.setFamily(family);
     if (size > 0)
         font.setPointSize(size);
-    for (QWidget* control : std::initializer_list<QWidget*>{ComboHatenaDrive, ComboNewDrive,
-                                                             Drive1, Dir1, File1})
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{ComboHatenaDrive, ComboNewDrive, Drive1, Dir1, File1})
         control->setFont(font);
     Drive1->refresh();
     Drive1_Change();

@@ -17,16 +17,19 @@ namespace {
 class ValReader {
 public:
     explicit ValReader(QStringView text)
-        : text_(text) {}
+        : text_(text)
+    {}
 
     // The next character that counts, or 0 at the end.
-    char16_t peek() {
+    char16_t peek()
+    {
         while (pos_ < text_.size() && isSkipped(text_[pos_]))
             ++pos_;
         return pos_ < text_.size() ? text_[pos_].unicode() : u'\0';
     }
     void next() { ++pos_; }
-    bool take(char16_t upper) {
+    bool take(char16_t upper)
+    {
         const char16_t c = peek();
         if (c != upper && c != upper + (u'a' - u'A'))
             return false;
@@ -34,7 +37,8 @@ public:
         return true;
     }
     // Appends the ASCII digits that follow to `out`; returns how many.
-    int takeDigits(std::string& out) {
+    int takeDigits(std::string& out)
+    {
         int count = 0;
         for (char16_t c = peek(); c >= u'0' && c <= u'9'; c = peek()) {
             out += char(c);
@@ -51,7 +55,8 @@ private:
     qsizetype pos_ = 0;
 };
 
-int digitValue(char16_t c, int radix) {
+int digitValue(char16_t c, int radix)
+{
     int value = -1;
     if (c >= u'0' && c <= u'9')
         value = c - u'0';
@@ -64,7 +69,8 @@ int digitValue(char16_t c, int radix) {
 
 // The digits after "&H" or "&O". Without a "&" suffix a value that fits in
 // 16 bits is an Integer, so "&HFFFF" is -1; otherwise a Long.
-double valRadix(ValReader& in, int radix) {
+double valRadix(ValReader& in, int radix)
+{
     quint64 value = 0;
     bool any = false;
     for (int digit = digitValue(in.peek(), radix); digit >= 0;
@@ -83,7 +89,8 @@ double valRadix(ValReader& in, int radix) {
 }
 
 // [sign] digits [. digits] [E|D [sign] digits]
-double valDecimal(ValReader& in) {
+double valDecimal(ValReader& in)
+{
     std::string number;
     if (in.peek() == u'-' || in.peek() == u'+') {
         number += char(in.peek());
@@ -125,7 +132,8 @@ double valDecimal(ValReader& in) {
 
 // The general form of a number, as CStr gives it: up to fifteen significant
 // digits, "E+16" beyond them, C locale.
-QString generalText(double value) {
+QString generalText(double value)
+{
     if (value == 0)
         value = 0; // no negative zero
     char buffer[40];
@@ -141,7 +149,8 @@ struct Digits {
     std::string fraction;
 };
 
-Digits roundedDigits(double magnitude, int decimals) {
+Digits roundedDigits(double magnitude, int decimals)
+{
     // Fifteen significant digits, as the number is shown everywhere else.
     char buffer[40];
     const auto end =
@@ -196,7 +205,8 @@ struct NumberPattern {
     bool point = false;
 };
 
-NumberPattern parsePattern(const QString& pattern) {
+NumberPattern parsePattern(const QString& pattern)
+{
     NumberPattern result;
     auto isPlace = [](QChar c) { return c == u'0' || c == u'#'; };
     qsizetype i = 0;
@@ -226,7 +236,8 @@ NumberPattern parsePattern(const QString& pattern) {
 
 } // namespace
 
-double Val(const QString& text) {
+double Val(const QString& text)
+{
     ValReader in(text);
     if (in.take(u'&')) {
         if (in.take(u'H'))
@@ -238,7 +249,8 @@ double Val(const QString& text) {
     return valDecimal(in);
 }
 
-QString Str(double value) {
+QString Str(double value)
+{
     QString text = generalText(value);
     if (text.startsWith(u"0."))
         text.remove(0, 1);
@@ -247,7 +259,8 @@ QString Str(double value) {
     return text.startsWith(u'-') ? text : u' ' + text;
 }
 
-QString Format(double value, const QString& pattern) {
+QString Format(double value, const QString& pattern)
+{
     if (pattern.isEmpty() || !std::isfinite(value))
         return generalText(value);
     const NumberPattern p = parsePattern(pattern);
@@ -264,39 +277,47 @@ QString Format(double value, const QString& pattern) {
     return (value < 0 ? u"-" : u"") + p.prefix + number + p.suffix;
 }
 
-QString Trim(const QString& text) {
+QString Trim(const QString& text)
+{
     return LTrim(RTrim(text));
 }
 
-QString LTrim(const QString& text) {
+QString LTrim(const QString& text)
+{
     qsizetype start = 0;
     while (start < text.size() && text[start] == u' ')
         ++start;
     return text.mid(start);
 }
 
-QString RTrim(const QString& text) {
+QString RTrim(const QString& text)
+{
     qsizetype end = text.size();
     while (end > 0 && text[end - 1] == u' ')
         --end;
     return text.left(end);
 }
 
-QString UCase(const QString& text) {
+QString UCase(const QString& text)
+{
     return text.toUpper();
 }
-QString LCase(const QString& text) {
+QString LCase(const QString& text)
+{
     return text.toLower();
 }
-QString Space(int count) {
+QString Space(int count)
+{
     return QString(std::max(count, 0), u' ');
 }
 
-int InStr(const QString& text, const QString& find) {
+int InStr(const QString& text, const QString& find)
+{
     return InStr(1, text, find);
 }
 
-int InStr(int start, const QString& text, const QString& find) {
+int InStr(int start, const QString& text, const QString& find)
+{
     if (start < 1 || text.isEmpty() || start > text.size() + 1)
         return 0;
     if (find.isEmpty())
@@ -304,7 +325,8 @@ int InStr(int start, const QString& text, const QString& find) {
     return int(text.indexOf(find, start - 1)) + 1;
 }
 
-int InStrRev(const QString& text, const QString& find) {
+int InStrRev(const QString& text, const QString& find)
+{
     if (text.isEmpty())
         return 0;
     if (find.isEmpty())
@@ -312,21 +334,25 @@ int InStrRev(const QString& text, const QString& find) {
     return int(text.lastIndexOf(find)) + 1;
 }
 
-QString Left(const QString& text, int count) {
+QString Left(const QString& text, int count)
+{
     return text.left(std::max(count, 0));
 }
 
-QString Right(const QString& text, int count) {
+QString Right(const QString& text, int count)
+{
     return text.right(std::max(count, 0));
 }
 
-QString Mid(const QString& text, int start, int count) {
+QString Mid(const QString& text, int start, int count)
+{
     if (start < 1)
         return QString();
     return text.mid(start - 1, count < 0 ? -1 : count);
 }
 
-bool StoreInt16(qint16& target, double value) {
+bool StoreInt16(qint16& target, double value)
+{
     const qint64 rounded = RoundHalfEven(value);
     if (std::isnan(value) || rounded < -32768 || rounded > 32767)
         return false;
@@ -334,7 +360,8 @@ bool StoreInt16(qint16& target, double value) {
     return true;
 }
 
-bool StoreInt32(qint32& target, double value) {
+bool StoreInt32(qint32& target, double value)
+{
     const qint64 rounded = RoundHalfEven(value);
     if (std::isnan(value) || rounded < std::numeric_limits<qint32>::min() ||
         rounded > std::numeric_limits<qint32>::max())
@@ -343,11 +370,13 @@ bool StoreInt32(qint32& target, double value) {
     return true;
 }
 
-qint16 ClampInt16(double value) {
+qint16 ClampInt16(double value)
+{
     return qint16(std::clamp<qint64>(RoundHalfEven(value), -32768, 32767));
 }
 
-qint64 RoundHalfEven(double value) {
+qint64 RoundHalfEven(double value)
+{
     if (std::isnan(value))
         return 0;
     double whole = std::floor(value);

@@ -14,8 +14,7 @@ RealClock::RealClock()
     : start_(std::chrono::duration_cast<std::chrono::milliseconds>(
                  std::chrono::steady_clock::now().time_since_epoch())
                  .count())
-{
-}
+{}
 
 qint64 RealClock::tickCount()
 {

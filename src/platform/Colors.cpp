@@ -55,7 +55,8 @@ constexpr std::array<SystemColor, 25> kSystemColors{{
 
 constexpr int kButtonFaceIndex = 15;
 
-QColor systemColor(quint32 index) {
+QColor systemColor(quint32 index)
+{
     const SystemColor& entry =
         index < kSystemColors.size() ? kSystemColors[index] : kSystemColors[kButtonFaceIndex];
     if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
@@ -65,25 +66,29 @@ QColor systemColor(quint32 index) {
 
 } // namespace
 
-QColor colorFromBgr(qint32 bgr) {
+QColor colorFromBgr(qint32 bgr)
+{
     const auto value = quint32(bgr);
     if (value & 0x80000000u)
         return systemColor(value & 0x7FFFFFFFu);
     return QColor(int(value & 0xFF), int((value >> 8) & 0xFF), int((value >> 16) & 0xFF));
 }
 
-qint32 bgrFromColor(const QColor& color) {
+qint32 bgrFromColor(const QColor& color)
+{
     const QRgb rgb = color.rgb();
     return qint32(quint32(qRed(rgb)) | quint32(qGreen(rgb)) << 8 | quint32(qBlue(rgb)) << 16);
 }
 
-qint32 bgrFromText(const QString& text) {
+qint32 bgrFromText(const QString& text)
+{
     qint32 bgr = 0;
     basic::StoreInt32(bgr, basic::Val(text)); // a value past 32 bits leaves 0
     return bgr;
 }
 
-QString bgrToHexText(qint32 bgr) {
+QString bgrToHexText(qint32 bgr)
+{
     return u"&H" + QString::number(quint32(bgr), 16).toUpper().rightJustified(8, u'0') + u'&';
 }
 

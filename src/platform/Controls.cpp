@@ -18,7 +18,10 @@ qint32 storedColor(const QWidget* widget, const char* property)
     return value.isValid() ? value.toInt() : -1;
 }
 
-bool isTopLevel(const QWidget* widget) { return widget->isWindow(); }
+bool isTopLevel(const QWidget* widget)
+{
+    return widget->isWindow();
+}
 
 } // namespace
 
@@ -34,7 +37,10 @@ void setBackColor(QWidget* widget, qint32 bgr)
     widget->setAutoFillBackground(true);
 }
 
-qint32 backColor(const QWidget* widget) { return storedColor(widget, kBackColorProperty); }
+qint32 backColor(const QWidget* widget)
+{
+    return storedColor(widget, kBackColorProperty);
+}
 
 void setForeColor(QWidget* widget, qint32 bgr)
 {
@@ -47,7 +53,10 @@ void setForeColor(QWidget* widget, qint32 bgr)
     widget->setPalette(palette);
 }
 
-qint32 foreColor(const QWidget* widget) { return storedColor(widget, kForeColorProperty); }
+qint32 foreColor(const QWidget* widget)
+{
+    return storedColor(widget, kForeColorProperty);
+}
 
 float twLeft(const QWidget* widget)
 {
@@ -93,7 +102,13 @@ void twResize(QWidget* widget, double width, double height)
     twMove(widget, twLeft(widget), twTop(widget), width, height);
 }
 
-float twScaleWidth(const QWidget* window) { return pixelsToTwips(window->width()); }
-float twScaleHeight(const QWidget* window) { return pixelsToTwips(window->height()); }
+float twScaleWidth(const QWidget* window)
+{
+    return pixelsToTwips(window->width());
+}
+float twScaleHeight(const QWidget* window)
+{
+    return pixelsToTwips(window->height());
+}
 
 } // namespace lumen

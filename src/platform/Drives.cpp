@@ -9,22 +9,26 @@ namespace lumen {
 namespace {
 
 // Absolute, clean, no trailing "/" except for the root itself.
-QString cleanRoot(const QString& nativeFolder) {
+QString cleanRoot(const QString& nativeFolder)
+{
     return QDir::cleanPath(QDir::current().absoluteFilePath(nativeFolder));
 }
 
-bool isDriveLetter(QChar letter) {
+bool isDriveLetter(QChar letter)
+{
     const QChar upper = letter.toUpper();
     return upper >= u'A' && upper <= u'Z';
 }
 
 // Removes blanks, tabs and the CR of a CR LF line at both ends.
-QString trimmedField(const QString& text) {
+QString trimmedField(const QString& text)
+{
     return text.trimmed();
 }
 
 // "~" and "~/x" in Drives.txt stand for the home folder.
-QString expandHome(const QString& path, const QString& home) {
+QString expandHome(const QString& path, const QString& home)
+{
     if (path == u"~")
         return home;
     if (path.startsWith(u"~/"))
@@ -34,7 +38,8 @@ QString expandHome(const QString& path, const QString& home) {
 
 // The part of `path` below `root`, or nothing when `path` is not inside it.
 // A root matches only at a component boundary: /home/meat is not under /home/me.
-std::optional<QString> below(const QString& path, const QString& root) {
+std::optional<QString> below(const QString& path, const QString& root)
+{
     if (path == root)
         return QString();
     if (root == u"/")
@@ -47,18 +52,21 @@ std::optional<QString> below(const QString& path, const QString& root) {
 } // namespace
 
 DriveMap::DriveMap(const QString& nativeHome)
-    : home_(cleanRoot(nativeHome)) {
+    : home_(cleanRoot(nativeHome))
+{
     drives_.insert(u'C', Drive{home_, QString()});
     drives_.insert(u'Z', Drive{QStringLiteral("/"), QString()});
 }
 
-void DriveMap::setDrive(QChar letter, const Drive& drive) {
+void DriveMap::setDrive(QChar letter, const Drive& drive)
+{
     if (!isDriveLetter(letter) || drive.root.isEmpty())
         return;
     drives_.insert(letter.toUpper(), Drive{cleanRoot(drive.root), drive.cdDevice});
 }
 
-void DriveMap::addFromText(const QString& drivesText) {
+void DriveMap::addFromText(const QString& drivesText)
+{
     const QStringList lines = drivesText.split(u'\n');
     for (const QString& rawLine : lines) {
         const QString line = trimmedField(rawLine);
@@ -89,7 +97,8 @@ void DriveMap::addFromText(const QString& drivesText) {
     }
 }
 
-QString DriveMap::defaultDrivesText() {
+QString DriveMap::defaultDrivesText()
+{
     return QStringLiteral("' ドライブ文字の割り当て\n"
                           "' C: はホームフォルダー、Z: はルート (/) です。\n"
                           "' ほかのドライブは「文字 = フォルダー」の一行で加えます。\n"
@@ -99,19 +108,23 @@ QString DriveMap::defaultDrivesText() {
                           "'E = /media/usb\n");
 }
 
-bool DriveMap::hasDrive(QChar letter) const {
+bool DriveMap::hasDrive(QChar letter) const
+{
     return drives_.contains(letter.toUpper());
 }
 
-Drive DriveMap::drive(QChar letter) const {
+Drive DriveMap::drive(QChar letter) const
+{
     return drives_.value(letter.toUpper());
 }
 
-QList<QChar> DriveMap::letters() const {
+QList<QChar> DriveMap::letters() const
+{
     return drives_.keys();
 }
 
-QString DriveMap::toProgram(const QString& nativePath) const {
+QString DriveMap::toProgram(const QString& nativePath) const
+{
     if (nativePath.isEmpty())
         return QString();
     const QString path = cleanRoot(nativePath);
@@ -131,7 +144,8 @@ QString DriveMap::toProgram(const QString& nativePath) const {
     return QString(bestLetter) + u":\\" + QString(bestRest).replace(u'/', u'\\');
 }
 
-QString DriveMap::rootOf(const QString& programPath) const {
+QString DriveMap::rootOf(const QString& programPath) const
+{
     if (programPath.size() < 2 || programPath.at(1) != u':' || !isDriveLetter(programPath.at(0)))
         return QString();
     return drive(programPath.at(0)).root;

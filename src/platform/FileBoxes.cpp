@@ -5,7 +5,10 @@
 namespace lumen {
 namespace {
 
-QString rootOf(const QString& path) { return path.left(2).toUpper() + QLatin1Char('\\'); }
+QString rootOf(const QString& path)
+{
+    return path.left(2).toUpper() + QLatin1Char('\\');
+}
 
 QString joinPath(const QString& folder, const QString& name)
 {
@@ -40,7 +43,10 @@ DriveListBox::DriveListBox(FileSystem& fs, const QString& name, QWidget* parent)
     connect(this, &QComboBox::currentIndexChanged, this, &DriveListBox::driveChanged);
 }
 
-QString DriveListBox::drive() const { return currentText().left(2); }
+QString DriveListBox::drive() const
+{
+    return currentText().left(2);
+}
 
 void DriveListBox::setDrive(const QString& drive)
 {
@@ -59,8 +65,8 @@ void DriveListBox::refresh()
     const QString keep = drive();
     clear();
     for (QChar letter : fs_.drives().letters()) {
-        addItem(QString(letter.toLower()) + QStringLiteral(": [") + fs_.drives().drive(letter).root +
-                QLatin1Char(']'));
+        addItem(QString(letter.toLower()) + QStringLiteral(": [") +
+                fs_.drives().drive(letter).root + QLatin1Char(']'));
     }
     if (!keep.isEmpty())
         setDrive(keep);
@@ -84,6 +90,7 @@ void DirListBox::setPath(const QString& path)
         return;
     while (folder.size() > 3 && folder.endsWith(QLatin1Char('\\')))
         folder.chop(1);
+    folder[0] = folder[0].toUpper();
     const bool changed = folder.compare(path_, Qt::CaseInsensitive) != 0;
     path_ = folder;
     refresh();
@@ -99,7 +106,8 @@ void DirListBox::refresh()
     const QStringList chain = chainOf(path_);
     int depth = 0;
     for (const QString& level : chain) {
-        const QString label = depth == 0 ? level : level.mid(level.lastIndexOf(QLatin1Char('\\')) + 1);
+        const QString label =
+            depth == 0 ? level : level.mid(level.lastIndexOf(QLatin1Char('\\')) + 1);
         auto* item = new QListWidgetItem(QString(depth * 2, QLatin1Char(' ')) + label, this);
         item->setData(kPathRole, level);
         ++depth;

@@ -17,9 +17,9 @@ class DriveListBox : public QComboBox {
 public:
     DriveListBox(FileSystem& fs, const QString& name, QWidget* parent = nullptr);
 
-    QString drive() const;                 // "c:" as the box shows it
-    void setDrive(const QString& drive);   // "C:", "c:\x" or "d: [...]"; unknown letters are ignored
-    void refresh();                        // reads the drives again
+    QString drive() const;               // "c:" as the box shows it
+    void setDrive(const QString& drive); // "C:", "c:\x" or "d: [...]"; unknown letters are ignored
+    void refresh();                      // reads the drives again
 
 Q_SIGNALS:
     void driveChanged();
@@ -35,8 +35,8 @@ class DirListBox : public QListWidget {
 public:
     DirListBox(FileSystem& fs, const QString& name, QWidget* parent = nullptr);
 
-    QString path() const { return path_; }  // "C:\pics", a root as "C:\"
-    void setPath(const QString& path);      // unknown folders are ignored
+    QString path() const { return path_; } // "C:\pics", a root as "C:\"
+    void setPath(const QString& path);     // unknown folders are ignored
     void refresh();
 
 Q_SIGNALS:
@@ -58,7 +58,7 @@ public:
     void setPath(const QString& path);
     QString pattern() const { return pattern_; }
     void setPattern(const QString& pattern);
-    QString fileName() const;               // the selected name, "" when none
+    QString fileName() const; // the selected name, "" when none
     void refresh();
 
 private:

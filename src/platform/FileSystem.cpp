@@ -18,32 +18,38 @@ namespace {
 
 constexpr QChar kSeparator = u'\\';
 
-QString joinNative(const QString& folder, const QString& name) {
+QString joinNative(const QString& folder, const QString& name)
+{
     if (folder.endsWith(u'/'))
         return folder + name;
     return folder + u'/' + name;
 }
 
-QString chopTrailing(QString text, QStringView characters) {
+QString chopTrailing(QString text, QStringView characters)
+{
     while (!text.isEmpty() && characters.contains(text.back()))
         text.chop(1);
     return text;
 }
 
-bool isHiddenName(const QString& name) {
+bool isHiddenName(const QString& name)
+{
     return name.startsWith(u'.');
 }
 
-bool hasWildcards(const QString& name) {
+bool hasWildcards(const QString& name)
+{
     return name.contains(u'*') || name.contains(u'?');
 }
 
-bool isDriveSpec(const QString& text) {
+bool isDriveSpec(const QString& text)
+{
     return text.size() >= 2 && text.at(1) == u':';
 }
 
 // Also true for a link whose target is gone.
-bool existsOrLink(const QString& native) {
+bool existsOrLink(const QString& native)
+{
     const QFileInfo info(native);
     return info.exists() || info.isSymLink();
 }
@@ -51,22 +57,26 @@ bool existsOrLink(const QString& native) {
 // A name the program form can spell holds no "\". Names whose bytes aren't
 // UTF-8 decode to U+FFFD and so name no file: the type filters of the
 // listings (files, folders) leave them out already.
-bool fitsProgramForm(const QString& name) {
+bool fitsProgramForm(const QString& name)
+{
     return !name.contains(kSeparator);
 }
 
-bool lessInByteOrder(const QString& a, const QString& b) {
+bool lessInByteOrder(const QString& a, const QString& b)
+{
     return QFile::encodeName(a) < QFile::encodeName(b);
 }
 
-bool listingLess(const QString& a, const QString& b) {
+bool listingLess(const QString& a, const QString& b)
+{
     const int order = QString::compare(a, b, Qt::CaseInsensitive);
     return order != 0 ? order < 0 : lessInByteOrder(a, b);
 }
 
 // The entry of `folder` that is `name` when case is ignored; the first in
 // byte order when there are several, "" when none.
-QString findIgnoringCase(const QString& folder, const QString& name) {
+QString findIgnoringCase(const QString& folder, const QString& name)
+{
     const QStringList entries = QDir(folder).entryList(
         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
     QString best;
@@ -80,11 +90,13 @@ QString findIgnoringCase(const QString& folder, const QString& name) {
 }
 
 // The entry of `folder` called `name`, exactly or else ignoring case.
-QString findEntry(const QString& folder, const QString& name) {
+QString findEntry(const QString& folder, const QString& name)
+{
     return existsOrLink(joinNative(folder, name)) ? name : findIgnoringCase(folder, name);
 }
 
-QString wildcardExpression(const QString& pattern) {
+QString wildcardExpression(const QString& pattern)
+{
     QString expression;
     for (const QChar c : pattern) {
         if (c == u'*')
@@ -99,7 +111,8 @@ QString wildcardExpression(const QString& pattern) {
 
 // "*" and "?" only (no classes), without regard to case; "x.*" also
 // matches "x".
-QRegularExpression wildcardPattern(const QString& pattern) {
+QRegularExpression wildcardPattern(const QString& pattern)
+{
     QString expression = wildcardExpression(pattern);
     if (pattern.endsWith(u".*"))
         expression += u'|' + wildcardExpression(pattern.chopped(2));
@@ -107,13 +120,15 @@ QRegularExpression wildcardPattern(const QString& pattern) {
                               QRegularExpression::CaseInsensitiveOption);
 }
 
-QStringList sortedForListing(QStringList names) {
+QStringList sortedForListing(QStringList names)
+{
     std::sort(names.begin(), names.end(), listingLess);
     return names;
 }
 
 // Normal files of a native folder that match the pattern, in listing order.
-QStringList matchingFiles(const QString& folder, const QString& pattern) {
+QStringList matchingFiles(const QString& folder, const QString& pattern)
+{
     const QRegularExpression match = wildcardPattern(pattern);
     QStringList names;
     // Without QDir::Hidden the dot names stay out.
@@ -124,14 +139,16 @@ QStringList matchingFiles(const QString& folder, const QString& pattern) {
     return sortedForListing(names);
 }
 
-bool isNormalFile(const QString& native) {
+bool isNormalFile(const QString& native)
+{
     const QFileInfo info(native);
     return info.isFile() && !isHiddenName(info.fileName());
 }
 
 // Appends the parts of a program-form path (separators already "\") to
 // `names`, stepping over "." and "..", dropping trailing blanks and dots.
-void appendParts(QStringList& names, const QString& path) {
+void appendParts(QStringList& names, const QString& path)
+{
     for (const QString& part : path.split(kSeparator, Qt::SkipEmptyParts)) {
         const QString word = chopTrailing(part, u" ");
         if (word == u".")
@@ -147,27 +164,31 @@ void appendParts(QStringList& names, const QString& path) {
     }
 }
 
-std::optional<dev_t> deviceOf(const QByteArray& path) {
+std::optional<dev_t> deviceOf(const QByteArray& path)
+{
     struct stat status {};
     if (::lstat(path.constData(), &status) != 0)
         return std::nullopt;
     return status.st_dev;
 }
 
-bool isMountPoint(const QString& native) {
+bool isMountPoint(const QString& native)
+{
     const auto here = deviceOf(QFile::encodeName(native));
     const auto parent = deviceOf(QFile::encodeName(joinNative(native, QStringLiteral(".."))));
     return !here || !parent || *here != *parent;
 }
 
-bool isInsideOrSame(const QString& path, const QString& folder) {
+bool isInsideOrSame(const QString& path, const QString& folder)
+{
     return path == folder || folder == u"/" || path.startsWith(folder + u'/');
 }
 
 // Removes a real folder and everything in it, depth first. Links are removed
 // as links; folders on another device are left alone, so the walk fails.
 // Works on bytes, so names that aren't UTF-8 go too.
-bool removeTree(const std::filesystem::path& folder, dev_t device) {
+bool removeTree(const std::filesystem::path& folder, dev_t device)
+{
     namespace fs = std::filesystem;
     std::error_code error;
     bool removedAll = true;
@@ -193,12 +214,14 @@ bool removeTree(const std::filesystem::path& folder, dev_t device) {
 
 FileSystem::FileSystem(DriveMap drives, QString currentFolder)
     : drives_(std::move(drives))
-    , current_(QStringLiteral("C:\\")) {
+    , current_(QStringLiteral("C:\\"))
+{
     if (const auto path = absolute(currentFolder))
         current_ = QString(path->drive) + u":\\" + path->names.join(kSeparator);
 }
 
-std::optional<FileSystem::Parts> FileSystem::absolute(const QString& programPath) const {
+std::optional<FileSystem::Parts> FileSystem::absolute(const QString& programPath) const
+{
     if (programPath.isEmpty() || programPath.contains(u"://"))
         return std::nullopt;
     QString text = programPath;
@@ -220,7 +243,8 @@ std::optional<FileSystem::Parts> FileSystem::absolute(const QString& programPath
     return path;
 }
 
-FileSystem::Parts FileSystem::resolved(const Parts& path) const {
+FileSystem::Parts FileSystem::resolved(const Parts& path) const
+{
     Parts found{path.drive, {}};
     QString native = drives_.drive(path.drive).root;
     bool exists = !native.isEmpty();
@@ -234,7 +258,8 @@ FileSystem::Parts FileSystem::resolved(const Parts& path) const {
     return found;
 }
 
-QString FileSystem::nativeOf(const Parts& path) const {
+QString FileSystem::nativeOf(const Parts& path) const
+{
     QString native = drives_.drive(path.drive).root;
     if (native.isEmpty())
         return QString();
@@ -243,12 +268,14 @@ QString FileSystem::nativeOf(const Parts& path) const {
     return native;
 }
 
-QString FileSystem::toNative(const QString& programPath) const {
+QString FileSystem::toNative(const QString& programPath) const
+{
     const auto path = absolute(programPath);
     return path ? nativeOf(resolved(*path)) : QString();
 }
 
-void FileSystem::loadDrivesFile(const QString& nativeFolder) {
+void FileSystem::loadDrivesFile(const QString& nativeFolder)
+{
     const QString fileName = QDir(nativeFolder).filePath(QStringLiteral("Drives.txt"));
     if (!QFileInfo::exists(fileName)) {
         QSaveFile out(fileName);
@@ -266,7 +293,8 @@ void FileSystem::loadDrivesFile(const QString& nativeFolder) {
     drives_ = drives;
 }
 
-bool FileSystem::chDir(const QString& programPath) {
+bool FileSystem::chDir(const QString& programPath)
+{
     const auto path = absolute(programPath);
     if (!path)
         return false;
@@ -277,7 +305,8 @@ bool FileSystem::chDir(const QString& programPath) {
     return true;
 }
 
-QString FileSystem::dir(const QString& pathOrPattern) const {
+QString FileSystem::dir(const QString& pathOrPattern) const
+{
     if (pathOrPattern.isEmpty() || pathOrPattern.contains(u"://"))
         return QString();
     QString text = pathOrPattern;
@@ -301,35 +330,41 @@ QString FileSystem::dir(const QString& pathOrPattern) const {
     return matchingFiles(folder, name).value(0);
 }
 
-bool FileSystem::isFile(const QString& programPath) const {
+bool FileSystem::isFile(const QString& programPath) const
+{
     const QString native = toNative(programPath);
     return !native.isEmpty() && isNormalFile(native);
 }
 
-bool FileSystem::isFolder(const QString& programPath) const {
+bool FileSystem::isFolder(const QString& programPath) const
+{
     const QString native = toNative(programPath);
     return !native.isEmpty() && QFileInfo(native).isDir();
 }
 
-bool FileSystem::isLink(const QString& programPath) const {
+bool FileSystem::isLink(const QString& programPath) const
+{
     const QString native = toNative(programPath);
     return !native.isEmpty() && QFileInfo(native).isSymLink();
 }
 
-qint64 FileSystem::fileLength(const QString& programPath) const {
+qint64 FileSystem::fileLength(const QString& programPath) const
+{
     const QString native = toNative(programPath);
     const QFileInfo info(native);
     return !native.isEmpty() && info.isFile() ? info.size() : -1;
 }
 
-QStringList FileSystem::files(const QString& programFolder, const QString& pattern) const {
+QStringList FileSystem::files(const QString& programFolder, const QString& pattern) const
+{
     const QString folder = toNative(programFolder);
     if (folder.isEmpty())
         return {};
     return matchingFiles(folder, pattern.isEmpty() ? QStringLiteral("*") : pattern);
 }
 
-QStringList FileSystem::folders(const QString& programFolder) const {
+QStringList FileSystem::folders(const QString& programFolder) const
+{
     const QString folder = toNative(programFolder);
     if (folder.isEmpty())
         return {};
@@ -342,12 +377,14 @@ QStringList FileSystem::folders(const QString& programFolder) const {
     return sortedForListing(names);
 }
 
-bool FileSystem::makeFolder(const QString& programPath) {
+bool FileSystem::makeFolder(const QString& programPath)
+{
     const QString native = toNative(programPath);
     return !native.isEmpty() && QDir().mkdir(native);
 }
 
-bool FileSystem::copyFile(const QString& from, const QString& to) {
+bool FileSystem::copyFile(const QString& from, const QString& to)
+{
     const QString source = toNative(from);
     const QString target = toNative(to);
     if (source.isEmpty() || target.isEmpty() || !QFileInfo(source).isFile())
@@ -366,7 +403,8 @@ bool FileSystem::copyFile(const QString& from, const QString& to) {
     return QFile::setPermissions(target, in.permissions());
 }
 
-bool FileSystem::renameFile(const QString& from, const QString& to) {
+bool FileSystem::renameFile(const QString& from, const QString& to)
+{
     if (to.mid(to.lastIndexOf(kSeparator) + 1).contains(u'/'))
         return false;
     const QString source = toNative(from);
@@ -384,7 +422,8 @@ bool FileSystem::renameFile(const QString& from, const QString& to) {
     return QFile::rename(source, target);
 }
 
-bool FileSystem::deleteFile(const QString& programPath) {
+bool FileSystem::deleteFile(const QString& programPath)
+{
     const QString native = toNative(programPath);
     const QFileInfo info(native);
     if (native.isEmpty() || (!info.isSymLink() && (!info.exists() || info.isDir())))
@@ -392,7 +431,8 @@ bool FileSystem::deleteFile(const QString& programPath) {
     return QFile::remove(native);
 }
 
-int FileSystem::attributes(const QString& programPath) const {
+int FileSystem::attributes(const QString& programPath) const
+{
     const QString native = toNative(programPath);
     const QFileInfo info(native);
     if (native.isEmpty() || !existsOrLink(native))
@@ -407,7 +447,8 @@ int FileSystem::attributes(const QString& programPath) const {
     return value;
 }
 
-bool FileSystem::clearAttributes(const QString& programPath) {
+bool FileSystem::clearAttributes(const QString& programPath)
+{
     const QString native = toNative(programPath);
     const QFileInfo info(native);
     if (native.isEmpty() || !info.exists())
@@ -415,11 +456,13 @@ bool FileSystem::clearAttributes(const QString& programPath) {
     return QFile::setPermissions(native, info.permissions() | QFileDevice::WriteOwner);
 }
 
-void FileSystem::addProtectedFolder(const QString& programPath) {
+void FileSystem::addProtectedFolder(const QString& programPath)
+{
     protected_.append(programPath);
 }
 
-bool FileSystem::isGuarded(const QString& nativeFolder) const {
+bool FileSystem::isGuarded(const QString& nativeFolder) const
+{
     QStringList guarded{drives_.home()};
     for (const QChar letter : drives_.letters())
         guarded.append(drives_.drive(letter).root);
@@ -444,7 +487,8 @@ bool FileSystem::isGuarded(const QString& nativeFolder) const {
     return false;
 }
 
-TreeDeleteResult FileSystem::deleteTree(const QString& programPath) {
+TreeDeleteResult FileSystem::deleteTree(const QString& programPath)
+{
     const QString native = toNative(programPath);
     const QFileInfo info(native);
     if (native.isEmpty() || !info.isDir())

@@ -33,6 +33,9 @@ void FormMessage::showAt(int leftTwips, int topTwips, const QString& text)
     raise();
 }
 
-QString FormMessage::text() const { return Label1->text(); }
+QString FormMessage::text() const
+{
+    return Label1->text();
+}
 
 } // namespace lumen

@@ -13,7 +13,8 @@ namespace {
 constexpr int kOpened = 42; // ShellExecute's answers
 constexpr int kNotFound = 2;
 
-bool isExecutableFile(const QString& native) {
+bool isExecutableFile(const QString& native)
+{
     if (native.isEmpty())
         return false;
     const QFileInfo info(native);
@@ -24,7 +25,8 @@ bool isExecutableFile(const QString& native) {
 
 // A word holding ":\" is a program-form path; one on an unknown drive
 // stays as written.
-QString argumentWord(const QString& word, const FileSystem& fs) {
+QString argumentWord(const QString& word, const FileSystem& fs)
+{
     if (!word.contains(u":\\"))
         return word;
     const QString native = fs.toNative(word);
@@ -33,7 +35,8 @@ QString argumentWord(const QString& word, const FileSystem& fs) {
 
 } // namespace
 
-std::optional<QStringList> splitCommandLine(const QString& commandLine, const FileSystem& fs) {
+std::optional<QStringList> splitCommandLine(const QString& commandLine, const FileSystem& fs)
+{
     qsizetype start = 0;
     while (start < commandLine.size() && commandLine.at(start) == u' ')
         ++start;
@@ -53,7 +56,8 @@ std::optional<QStringList> splitCommandLine(const QString& commandLine, const Fi
     return std::nullopt;
 }
 
-bool ProcessLauncher::shell(const QString& commandLine) {
+bool ProcessLauncher::shell(const QString& commandLine)
+{
     const auto argv = splitCommandLine(commandLine, fs_);
     if (!argv)
         return false;
@@ -62,7 +66,8 @@ bool ProcessLauncher::shell(const QString& commandLine) {
     return QProcess::startDetached(argv->first(), argv->sliced(1), workingFolder);
 }
 
-int ProcessLauncher::shellExecuteOpen(const QString& programPath) {
+int ProcessLauncher::shellExecuteOpen(const QString& programPath)
+{
     const QString native = fs_.toNative(programPath);
     const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
     if (native.isEmpty() || !QFileInfo::exists(native) || opener.isEmpty())

@@ -33,7 +33,8 @@ public:
 class ProcessLauncher : public Launcher {
 public:
     explicit ProcessLauncher(const FileSystem& fs)
-        : fs_(fs) {}
+        : fs_(fs)
+    {}
     bool shell(const QString& commandLine) override;
     int shellExecuteOpen(const QString& programPath) override;
 

@@ -29,7 +29,10 @@ QString qtFilterFromClassic(const QString& classicFilter)
 
 QtUserDialogs::QtUserDialogs() = default;
 
-QtUserDialogs::~QtUserDialogs() { delete message_; }
+QtUserDialogs::~QtUserDialogs()
+{
+    delete message_;
+}
 
 void QtUserDialogs::msgBox(const QString& text)
 {
@@ -40,8 +43,8 @@ void QtUserDialogs::msgBox(const QString& text)
 
 int QtUserDialogs::askYesNo(const QString& text)
 {
-    QMessageBox box(QMessageBox::Question, kDefaultTitle, text,
-                    QMessageBox::Yes | QMessageBox::No, owner_);
+    QMessageBox box(QMessageBox::Question, kDefaultTitle, text, QMessageBox::Yes | QMessageBox::No,
+                    owner_);
     box.setWindowModality(Qt::ApplicationModal);
     return box.exec() == QMessageBox::Yes ? kAnswerYes : kAnswerNo;
 }
@@ -107,8 +110,7 @@ std::optional<QString> QtUserDialogs::saveFileName(const QString& title, const Q
 
 QString QtUserDialogs::browseForFolder(const QString& title, const QString& startPath)
 {
-    return QFileDialog::getExistingDirectory(owner_, title, startPath,
-                                             QFileDialog::ShowDirsOnly);
+    return QFileDialog::getExistingDirectory(owner_, title, startPath, QFileDialog::ShowDirsOnly);
 }
 
 } // namespace lumen

@@ -11,14 +11,16 @@ namespace lumen {
 
 namespace {
 
-std::function<void()>& beforeCommitHook() {
+std::function<void()>& beforeCommitHook()
+{
     static std::function<void()> hook;
     return hook;
 }
 
 } // namespace
 
-bool writeFileSafely(const QString& nativePath, const QByteArray& bytes) {
+bool writeFileSafely(const QString& nativePath, const QByteArray& bytes)
+{
     QSaveFile file(nativePath);
     if (!file.open(QIODevice::WriteOnly))
         return false;
@@ -31,11 +33,13 @@ bool writeFileSafely(const QString& nativePath, const QByteArray& bytes) {
     return file.commit();
 }
 
-bool writeTextFileSafely(const QString& nativePath, const QString& text) {
+bool writeTextFileSafely(const QString& nativePath, const QString& text)
+{
     return writeFileSafely(nativePath, text::encodeForFile(text));
 }
 
-std::optional<QString> readTextFile(const QString& nativePath) {
+std::optional<QString> readTextFile(const QString& nativePath)
+{
     QFile file(nativePath);
     if (!file.open(QIODevice::ReadOnly))
         return std::nullopt;
@@ -47,7 +51,8 @@ std::optional<QString> readTextFile(const QString& nativePath) {
 
 namespace testing {
 
-void setBeforeCommitHook(std::function<void()> hook) {
+void setBeforeCommitHook(std::function<void()> hook)
+{
     beforeCommitHook() = std::move(hook);
 }
 

@@ -19,8 +19,10 @@ const QByteArrayView kUtf8Bom("\xEF\xBB\xBF");
 class Converter {
 public:
     Converter(const char* to, const char* from)
-        : cd_(iconv_open(to, from)) {}
-    ~Converter() {
+        : cd_(iconv_open(to, from))
+    {}
+    ~Converter()
+    {
         if (valid())
             iconv_close(cd_);
     }
@@ -30,7 +32,8 @@ public:
     bool valid() const { return cd_ != iconv_t(-1); }
 
     // Converts as far as it can; false where it stopped early, errno says why.
-    bool convert(const char*& in, std::size_t& inLeft, char*& out, std::size_t& outLeft) {
+    bool convert(const char*& in, std::size_t& inLeft, char*& out, std::size_t& outLeft)
+    {
         return iconv(cd_, const_cast<char**>(&in), &inLeft, &out, &outLeft) != std::size_t(-1);
     }
 
@@ -40,18 +43,21 @@ private:
 
 // CP932 bytes that also form UTF-8 holding non-ASCII bytes would be read back
 // as UTF-8: a few runs of half-width kana do ("ﾃｽ" is C3 BD, "ý" in UTF-8).
-bool readsAsUtf8(QByteArrayView bytes) {
+bool readsAsUtf8(QByteArrayView bytes)
+{
     return bytes.isValidUtf8() &&
            !std::all_of(bytes.begin(), bytes.end(), [](char byte) { return uchar(byte) < 0x80; });
 }
 
-bool isCp932LeadByte(uchar byte) {
+bool isCp932LeadByte(uchar byte)
+{
     return (byte >= 0x81 && byte <= 0x9F) || byte >= 0xE0;
 }
 
 // The longest start of CP932 bytes that fits `width` without halving a
 // double-byte character. The bytes come from encodeCp932, so they are whole.
-QByteArray cutCp932(const QByteArray& bytes, int width) {
+QByteArray cutCp932(const QByteArray& bytes, int width)
+{
     qsizetype end = 0;
     while (end < bytes.size()) {
         const qsizetype next = end + (isCp932LeadByte(uchar(bytes[end])) ? 2 : 1);
@@ -62,7 +68,8 @@ QByteArray cutCp932(const QByteArray& bytes, int width) {
     return bytes.left(end);
 }
 
-QByteArray cutUtf8(const QByteArray& bytes, int width) {
+QByteArray cutUtf8(const QByteArray& bytes, int width)
+{
     if (bytes.size() <= width)
         return bytes;
     qsizetype end = width;
@@ -73,7 +80,8 @@ QByteArray cutUtf8(const QByteArray& bytes, int width) {
 
 } // namespace
 
-QString decode(const QByteArray& bytes) {
+QString decode(const QByteArray& bytes)
+{
     if (bytes.startsWith(kUtf8Bom))
         return QString::fromUtf8(QByteArrayView(bytes).sliced(kUtf8Bom.size()));
     if (QByteArrayView(bytes).isValidUtf8()) // pure ASCII too: it reads the same either way
@@ -81,7 +89,8 @@ QString decode(const QByteArray& bytes) {
     return decodeCp932(bytes);
 }
 
-QString decodeCp932(const QByteArray& bytes) {
+QString decodeCp932(const QByteArray& bytes)
+{
     // Every CP932 character and every bad byte gives one UTF-16 unit.
     QString text(bytes.size(), Qt::Uninitialized);
     char* const begin = reinterpret_cast<char*>(text.data());
@@ -109,7 +118,8 @@ QString decodeCp932(const QByteArray& bytes) {
     return text;
 }
 
-std::optional<QByteArray> encodeCp932(const QString& text) {
+std::optional<QByteArray> encodeCp932(const QString& text)
+{
     Converter cp932(kCp932, kUtf16);
     if (!cp932.valid())
         return std::nullopt;
@@ -130,13 +140,15 @@ std::optional<QByteArray> encodeCp932(const QString& text) {
     return bytes;
 }
 
-QByteArray encodeForFile(const QString& text) {
+QByteArray encodeForFile(const QString& text)
+{
     if (const auto cp932 = encodeCp932(text); cp932 && !readsAsUtf8(*cp932))
         return *cp932;
     return kUtf8Bom.toByteArray() + text.toUtf8();
 }
 
-QByteArray encodeField(const QString& text, int width) {
+QByteArray encodeField(const QString& text, int width)
+{
     if (width <= 0)
         return QByteArray();
     if (const auto cp932 = encodeCp932(text)) {
@@ -147,7 +159,8 @@ QByteArray encodeField(const QString& text, int width) {
     return cutUtf8(text.toUtf8(), width);
 }
 
-QStringList splitLines(const QString& text) {
+QStringList splitLines(const QString& text)
+{
     QStringList lines;
     qsizetype start = 0;
     for (qsizetype i = 0; i < text.size(); ++i) {

@@ -8,7 +8,13 @@ namespace lumen {
 
 inline constexpr int kTwipsPerPixel = 15;
 
-inline int twipsToPixels(double twips) { return int(std::lround(twips / kTwipsPerPixel)); }
-inline float pixelsToTwips(int pixels) { return float(pixels * kTwipsPerPixel); }
+inline int twipsToPixels(double twips)
+{
+    return int(std::lround(twips / kTwipsPerPixel));
+}
+inline float pixelsToTwips(int pixels)
+{
+    return float(pixels * kTwipsPerPixel);
+}
 
 } // namespace lumen

@@ -20,8 +20,8 @@ class UserDialogs {
 public:
     virtual ~UserDialogs() = default;
 
-    virtual void msgBox(const QString& text) = 0;           // OK only
-    virtual int askYesNo(const QString& text) = 0;          // kAnswerYes or kAnswerNo
+    virtual void msgBox(const QString& text) = 0;  // OK only
+    virtual int askYesNo(const QString& text) = 0; // kAnswerYes or kAnswerNo
     // Nothing when cancelled.
     virtual std::optional<QString> inputBox(const QString& prompt, const QString& title,
                                             const QString& defaultText) = 0;

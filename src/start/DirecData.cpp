@@ -10,8 +10,7 @@ namespace {
 
 // Walks the fields in their order in the record, so that writing and reading
 // share one description of the layout.
-template <class Record, class Visitor>
-void visitFields(Record& r, Visitor&& v)
+template <class Record, class Visitor> void visitFields(Record& r, Visitor&& v)
 {
     v(r.PictureEditorPath);
     v(r.CommentEditorPath);
@@ -73,11 +72,7 @@ struct Writer {
         qToLittleEndian(value, bytes);
         out.append(bytes, 2);
     }
-    template <int N>
-    void operator()(const FixedString<N>& text)
-    {
-        out.append(text.bytes());
-    }
+    template <int N> void operator()(const FixedString<N>& text) { out.append(text.bytes()); }
 };
 
 struct Reader {
@@ -88,8 +83,7 @@ struct Reader {
         value = qFromLittleEndian<qint16>(in.constData() + pos);
         pos += 2;
     }
-    template <int N>
-    void operator()(FixedString<N>& text)
+    template <int N> void operator()(FixedString<N>& text)
     {
         text.setBytes(in.mid(pos, N));
         pos += N;

@@ -45,24 +45,24 @@ struct DirecDataRecord {
     qint16 NormalWindowTop = 0;
     qint16 NormalWindowWidth = 0;
     qint16 NormalWindowHeight = 0;
-    qint16 MainWindowLeft = 0;           // 1105
+    qint16 MainWindowLeft = 0; // 1105
     qint16 MainWindowTop = 0;
     qint16 MainWindowWidth = 0;
     qint16 MainWindowHeight = 0;
-    qint16 OriginalSizeOn = 0;           // 1113, Boolean
-    qint16 CyberViewOn = 0;              // 1115, Boolean
-    qint16 HtmlDelFolderFlag = 0;        // 1117
-    std::array<qint16, 5> SaveImageValues{};       // 1119, FormSaveImage
-    std::array<qint16, 2> ModPicValues{};          // 1129, FormModPic
-    std::array<FixedString<15>, 2> ModPicTexts{};  // 1133, FormModPic
-    std::array<qint16, 2> ModPicValues2{};         // 1163, FormModPic
-    qint16 PastCommentLeft = 0;          // 1167, FormPastComment
+    qint16 OriginalSizeOn = 0;                    // 1113, Boolean
+    qint16 CyberViewOn = 0;                       // 1115, Boolean
+    qint16 HtmlDelFolderFlag = 0;                 // 1117
+    std::array<qint16, 5> SaveImageValues{};      // 1119, FormSaveImage
+    std::array<qint16, 2> ModPicValues{};         // 1129, FormModPic
+    std::array<FixedString<15>, 2> ModPicTexts{}; // 1133, FormModPic
+    std::array<qint16, 2> ModPicValues2{};        // 1163, FormModPic
+    qint16 PastCommentLeft = 0;                   // 1167, FormPastComment
     qint16 PastCommentTop = 0;
     qint16 PastCommentWidth = 0;
     qint16 PastCommentHeight = 0;
-    std::array<FixedString<15>, 18> Reserved{};    // 1175
-    FixedString<100> LastListFile;       // 1445
-    qint16 ListAutoStart = 0;            // 1545, Boolean
+    std::array<FixedString<15>, 18> Reserved{}; // 1175
+    FixedString<100> LastListFile;              // 1445
+    qint16 ListAutoStart = 0;                   // 1545, Boolean
 
     QByteArray toBytes() const;
     // Bytes past the end of a short record read as zero; a longer one is cut.

@@ -11,12 +11,13 @@
 
 namespace lumen {
 
-template <int N>
-class FixedString {
+template <int N> class FixedString {
 public:
     static constexpr int size = N;
 
-    FixedString() : bytes_(N, '\0') {}
+    FixedString()
+        : bytes_(N, '\0')
+    {}
     FixedString(const QString& text) { *this = text; } // NOLINT: assignment from text is the point
 
     FixedString& operator=(const QString& text)

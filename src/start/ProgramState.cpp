@@ -4,7 +4,6 @@ namespace lumen {
 
 ProgramState::ProgramState()
     : CommandWord(kCommandWords + 1)
-{
-}
+{}
 
 } // namespace lumen

@@ -26,27 +26,27 @@ inline constexpr int kExtSlots = 17;
 struct ProgramState {
     ProgramState();
 
-    StringGrid ListArray{kListColumns, 1};  // rows from 1
-    StringGrid EditArray{kListColumns, 1};  // the editor's working copy
-    QStringList CommandWord;                // 1 To 34; index 0 unused
-    StringGrid ExtTypeArray{kExtSlots, 2};  // (0 To 16, 0 To 1): name, marker
+    StringGrid ListArray{kListColumns, 1}; // rows from 1
+    StringGrid EditArray{kListColumns, 1}; // the editor's working copy
+    QStringList CommandWord;               // 1 To 34; index 0 unused
+    StringGrid ExtTypeArray{kExtSlots, 2}; // (0 To 16, 0 To 1): name, marker
 
-    qint16 PicNo = 0;          // current page, from 1
-    QString ListFileName;      // working copy of the list being shown
-    QString StartFileName;     // file opened at start or last opened
-    QString DataDir;           // "C:\Lumentas"
-    QString ProgramRunDir;     // DataDir + "\ForProgramRun_KDR"
+    qint16 PicNo = 0;      // current page, from 1
+    QString ListFileName;  // working copy of the list being shown
+    QString StartFileName; // file opened at start or last opened
+    QString DataDir;       // "C:\Lumentas"
+    QString ProgramRunDir; // DataDir + "\ForProgramRun_KDR"
     QString AccessPassDir;
     QString AccessLockDir;
-    QString ForcedDriveFrom;   // drive mark of the list: "*:", "?:" or "%:"
-    QString ForcedDriveTo;     // the drive that stands for it
+    QString ForcedDriveFrom; // drive mark of the list: "*:", "?:" or "%:"
+    QString ForcedDriveTo;   // the drive that stands for it
     QString SelectedFile;
     qint32 PictureSizeAllowVal = 20;
-    QString AppDrive;          // first two characters of the program's folder
+    QString AppDrive; // first two characters of the program's folder
     QString WindowsFolder;
     QString SystemFolder;
-    QString ProgramFolder;     // the program's own folder, in program form
-    QString ProgramName;       // its file name without extension
+    QString ProgramFolder; // the program's own folder, in program form
+    QString ProgramName;   // its file name without extension
 
     bool AutoPageOn = false;
     bool StopRequested = false;

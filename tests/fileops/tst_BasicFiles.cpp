@@ -2,9 +2,11 @@
 // temporary home folder as drive C:.
 #include "support/BasicsFixture.h"
 
+#include "support/Fetch.h"
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+
 #include <QTest>
 
 #include <sys/stat.h>
@@ -68,7 +70,7 @@ void TestBasicFiles::fileExists()
     f.home.writeFile("pics/a,b.jpg", "x");
     f.home.writeFile("my pics/c.jpg", "x");
     QFETCH(QString, path);
-    QCOMPARE(f.basics.FileExists(std::as_const(path)), QFETCH(bool, exists));
+    QCOMPARE(f.basics.FileExists(std::as_const(path)), FETCH(bool, exists));
 }
 
 void TestBasicFiles::fileExistsTrimsTheVariable()
@@ -99,17 +101,21 @@ void TestBasicFiles::folderExists()
     f.home.writeFile("data/f.txt", "x");
     QDir(f.home.native("Lumentas")).removeRecursively();
     QFETCH(QString, path);
-    QCOMPARE(f.basics.FolderExists(std::as_const(path)), QFETCH(bool, exists));
+    QCOMPARE(f.basics.FolderExists(std::as_const(path)), FETCH(bool, exists));
 }
 
 void TestBasicFiles::fileSizeInMB_data()
 {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("size");
-    QTest::newRow("1,500,000 bytes") << "C:\\big.bin" << "1.500MB";
-    QTest::newRow("missing") << "C:\\none.bin" << "0.000MB";
-    QTest::newRow("no colon") << "big.bin" << "";
-    QTest::newRow("no dot") << "C:\\big" << "";
+    QTest::newRow("1,500,000 bytes") << "C:\\big.bin"
+                                     << "1.500MB";
+    QTest::newRow("missing") << "C:\\none.bin"
+                             << "0.000MB";
+    QTest::newRow("no colon") << "big.bin"
+                              << "";
+    QTest::newRow("no dot") << "C:\\big"
+                            << "";
 }
 
 void TestBasicFiles::fileSizeInMB()
@@ -117,21 +123,21 @@ void TestBasicFiles::fileSizeInMB()
     BasicsFixture f;
     f.home.writeFile("big.bin", QByteArray(1500000, 'x'));
     QFETCH(QString, path);
-    QCOMPARE(f.basics.FileSizeInMB(path), QFETCH(QString, size));
+    QCOMPARE(f.basics.FileSizeInMB(path), FETCH(QString, size));
 }
 
 void TestBasicFiles::copyByPair_data()
 {
     QTest::addColumn<QString>("pair");
-    QTest::addColumn<QString>("target");   // relative native path that must hold "new"
+    QTest::addColumn<QString>("target"); // relative native path that must hold "new"
     QTest::addColumn<QStringList>("captions");
-    QTest::newRow("into a new folder tree") << "C:\\src.jpg,C:\\out\\deep\\dst.jpg"
-                                            << "out/deep/dst.jpg"
-                                            << QStringList{"ファイル複製中 0.000MB", ""};
-    QTest::newRow("replaces a target") << "C:\\src.jpg,C:\\old.jpg" << "old.jpg"
-                                       << QStringList{"ファイル複製中 0.000MB", ""};
-    QTest::newRow("missing source: nothing but a refresh") << "C:\\none.jpg,C:\\x.jpg" << ""
-                                                           << QStringList{""};
+    QTest::newRow("into a new folder tree")
+        << "C:\\src.jpg,C:\\out\\deep\\dst.jpg"
+        << "out/deep/dst.jpg" << QStringList{"ファイル複製中 0.000MB", ""};
+    QTest::newRow("replaces a target") << "C:\\src.jpg,C:\\old.jpg"
+                                       << "old.jpg" << QStringList{"ファイル複製中 0.000MB", ""};
+    QTest::newRow("missing source: nothing but a refresh") << "C:\\none.jpg,C:\\x.jpg"
+                                                           << "" << QStringList{""};
 }
 
 void TestBasicFiles::copyByPair()
@@ -148,7 +154,7 @@ void TestBasicFiles::copyByPair()
     } else {
         QVERIFY(!f.home.exists("x.jpg"));
     }
-    QCOMPARE(f.host.captions, QFETCH(QStringList, captions));
+    QCOMPARE(f.host.captions, FETCH(QStringList, captions));
     QCOMPARE(f.host.refreshes, 1);
 }
 
@@ -188,7 +194,7 @@ void TestBasicFiles::wildcardsRefused()
     QFETCH(bool, move);
     const QString pair = QStringLiteral("C:\\a.jpg,C:\\b?.jpg");
     move ? f.basics.MoveFileByPair(pair) : f.basics.CopyFileByPair(pair);
-    QCOMPARE(f.host.captions.first(), QFETCH(QString, caption));
+    QCOMPARE(f.host.captions.first(), FETCH(QString, caption));
     QCOMPARE(f.host.refreshes, 1);
     QVERIFY(f.home.exists("a.jpg"));
     QCOMPARE(QDir(f.home.path()).entryList(QDir::Files).size(), 1);
@@ -246,14 +252,15 @@ void TestBasicFiles::deleteFileConfirmed_data()
     QTest::addColumn<QString>("question"); // "" when none is asked
     QTest::addColumn<bool>("deleted");
     QTest::addColumn<int>("beeps");
-    const QString readOnly = QStringLiteral("このファイルは読み出し専用です。それでも消去しますか？");
+    const QString readOnly =
+        QStringLiteral("このファイルは読み出し専用です。それでも消去しますか？");
     const QString hidden = QStringLiteral("このファイルは隠しファイルです。それでも消去しますか？");
     QTest::newRow("plain file goes at once") << "a.txt" << false << kAnswerYes << "" << true << 0;
     QTest::newRow("read-only, Yes") << "a.txt" << true << kAnswerYes << readOnly << true << 21;
     QTest::newRow("read-only, No") << "a.txt" << true << kAnswerNo << readOnly << false << 0;
     QTest::newRow("hidden, Yes") << ".a.txt" << false << kAnswerYes << hidden << true << 21;
-    QTest::newRow("hidden read-only (3) goes at once") << ".a.txt" << true << kAnswerNo << ""
-                                                       << true << 0;
+    QTest::newRow("hidden read-only (3) goes at once")
+        << ".a.txt" << true << kAnswerNo << "" << true << 0;
 }
 
 void TestBasicFiles::deleteFileConfirmed()
@@ -261,14 +268,14 @@ void TestBasicFiles::deleteFileConfirmed()
     BasicsFixture f;
     QFETCH(QString, name);
     const QString file = f.home.writeFile(name, "x");
-    if (QFETCH(bool, readOnly))
+    if (FETCH(bool, readOnly))
         QFile::setPermissions(file, QFile::ReadOwner | QFile::ReadGroup);
-    f.ui.answers.enqueue(QFETCH(int, answer));
+    f.ui.answers.enqueue(FETCH(int, answer));
     f.basics.DeleteFileConfirmed(QStringLiteral("C:\\") + name);
     QFETCH(QString, question);
     QCOMPARE(f.ui.questions, question.isEmpty() ? QStringList() : QStringList{question});
-    QCOMPARE(!QFileInfo::exists(file), QFETCH(bool, deleted));
-    QCOMPARE(f.ui.beeps, QFETCH(int, beeps));
+    QCOMPARE(!QFileInfo::exists(file), FETCH(bool, deleted));
+    QCOMPARE(f.ui.beeps, FETCH(int, beeps));
 }
 
 void TestBasicFiles::deleteFolderTree()
@@ -307,8 +314,8 @@ void TestBasicFiles::writeTextToFile()
 {
     BasicsFixture f;
     f.home.writeFile("out.txt", "an older and longer text");
-    f.basics.WriteTextToFile(QFETCH(QString, text), QStringLiteral("C:\\out.txt"));
-    QCOMPARE(f.home.readFile("out.txt"), QFETCH(QByteArray, bytes));
+    f.basics.WriteTextToFile(FETCH(QString, text), QStringLiteral("C:\\out.txt"));
+    QCOMPARE(f.home.readFile("out.txt"), FETCH(QByteArray, bytes));
 }
 
 QTEST_MAIN(TestBasicFiles)

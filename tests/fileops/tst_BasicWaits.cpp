@@ -1,7 +1,9 @@
 // Waits, beeps, the floating message, the movie page, folders and pictures.
 #include "support/BasicsFixture.h"
 
+#include "support/Fetch.h"
 #include <QImage>
+
 #include <QTest>
 
 using namespace lumen;
@@ -41,8 +43,8 @@ void TestBasicWaits::waitMilliseconds()
 {
     BasicsFixture f;
     f.clock.now = 1000;
-    f.basics.WaitMilliseconds(QFETCH(double, ms));
-    QCOMPARE(f.clock.now - 1000, QFETCH(qint64, waited));
+    f.basics.WaitMilliseconds(FETCH(double, ms));
+    QCOMPARE(f.clock.now - 1000, FETCH(qint64, waited));
 }
 
 void TestBasicWaits::waitForFileReadyIsTenMilliseconds()
@@ -69,9 +71,10 @@ void TestBasicWaits::waitForFolderGoneAsksEveryHalfMinute()
     for (int answer : answers)
         f.ui.answers.enqueue(answer);
     f.basics.WaitForFolderGone(QStringLiteral("C:\\stuck"));
-    QCOMPARE(f.ui.questions.size(), QFETCH(int, questions));
+    QCOMPARE(f.ui.questions.size(), FETCH(int, questions));
     for (const QString& question : f.ui.questions)
-        QCOMPARE(question, QStringLiteral("フォルダーの削除を待って30秒経過しました。継続しますか？"));
+        QCOMPARE(question,
+                 QStringLiteral("フォルダーの削除を待って30秒経過しました。継続しますか？"));
     QCOMPARE(f.clock.now, qint64(30000) * f.ui.questions.size());
 }
 
@@ -120,10 +123,9 @@ void TestBasicWaits::padToWidth_data()
 void TestBasicWaits::padToWidth()
 {
     BasicsFixture f;
-    QCOMPARE(f.basics.PadToWidth(QFETCH(QString, text), QFETCH(int, width)),
-             QFETCH(QString, result));
-    QCOMPARE(f.ui.boxes, QFETCH(bool, box) ? QStringList{" Line text is bigger than you want"}
-                                           : QStringList());
+    QCOMPARE(f.basics.PadToWidth(FETCH(QString, text), FETCH(int, width)), FETCH(QString, result));
+    QCOMPARE(f.ui.boxes,
+             FETCH(bool, box) ? QStringList{" Line text is bigger than you want"} : QStringList());
 }
 
 void TestBasicWaits::movieWrapperPage()

@@ -1,6 +1,8 @@
 // ResolveDriveName: the three drive marks of list lines.
 #include "support/BasicsFixture.h"
 
+#include "support/Fetch.h"
+
 #include <QTest>
 
 using namespace lumen;
@@ -21,53 +23,99 @@ void TestDriveMarks::resolve_data()
     QTest::addColumn<QString>("programFolder");
     QTest::addColumn<QString>("forcedFrom"); // pair before the call
     QTest::addColumn<QString>("forcedTo");
-    QTest::addColumn<QString>("answer");     // drive typed into the drive window
+    QTest::addColumn<QString>("answer"); // drive typed into the drive window
     QTest::addColumn<QString>("result");
-    QTest::addColumn<QString>("pairAfter");  // "from|to"
+    QTest::addColumn<QString>("pairAfter"); // "from|to"
     QTest::addColumn<int>("asked");
 
-    QTest::newRow("no mark") << "C:\\a.jpg" << "Z:\\usr\\bin" << "" << "" << "" << "C:\\a.jpg"
+    QTest::newRow("no mark") << "C:\\a.jpg"
+                             << "Z:\\usr\\bin"
+                             << ""
+                             << ""
+                             << ""
+                             << "C:\\a.jpg"
                              << "|" << 0;
-    QTest::newRow("mark before an address")
-        << "*:http://example.invalid/a\\\\b.html" << "Z:\\usr\\bin" << "" << "" << ""
-        << "http://example.invalid/a\\b.html" << "|" << 0;
+    QTest::newRow("mark before an address") << "*:http://example.invalid/a\\\\b.html"
+                                            << "Z:\\usr\\bin"
+                                            << ""
+                                            << ""
+                                            << ""
+                                            << "http://example.invalid/a\\b.html"
+                                            << "|" << 0;
     QTest::newRow("program drive") << "*:\\pics\\a.jpg @WITH=*:\\snd\\b.wav ENDWITH"
-                                   << "Z:\\usr\\bin" << "" << "" << ""
+                                   << "Z:\\usr\\bin"
+                                   << ""
+                                   << ""
+                                   << ""
                                    << "Z:\\pics\\a.jpg @WITH=Z:\\snd\\b.wav ENDWITH"
                                    << "*:|Z:" << 0;
     QTest::newRow("asked drive") << "?:\\pics\\a.jpg @WITH=?:\\snd\\b.wav ENDWITH"
-                                 << "Z:\\usr\\bin" << "" << "" << "d:"
-                                 << "D:\\pics\\a.jpg @WITH=D:\\snd\\b.wav ENDWITH" << "?:|D:" << 1;
-    QTest::newRow("drive already given") << "?:\\a.jpg" << "Z:\\usr\\bin" << "?:" << "E:" << ""
-                                         << "E:\\a.jpg" << "?:|E:" << 0;
-    QTest::newRow("doubled backslash collapsed") << "?:\\\\pics\\a.jpg" << "" << "?:" << "E:"
-                                                 << "" << "E:\\pics\\a.jpg" << "?:|E:" << 0;
-    QTest::newRow("list folder") << "%:\\pics\\a.jpg" << "" << "" << "" << ""
-                                 << "C:\\shows\\a.jpg" << "%:|" << 0;
+                                 << "Z:\\usr\\bin"
+                                 << ""
+                                 << ""
+                                 << "d:"
+                                 << "D:\\pics\\a.jpg @WITH=D:\\snd\\b.wav ENDWITH"
+                                 << "?:|D:" << 1;
+    QTest::newRow("drive already given") << "?:\\a.jpg"
+                                         << "Z:\\usr\\bin"
+                                         << "?:"
+                                         << "E:"
+                                         << ""
+                                         << "E:\\a.jpg"
+                                         << "?:|E:" << 0;
+    QTest::newRow("doubled backslash collapsed") << "?:\\\\pics\\a.jpg"
+                                                 << ""
+                                                 << "?:"
+                                                 << "E:"
+                                                 << ""
+                                                 << "E:\\pics\\a.jpg"
+                                                 << "?:|E:" << 0;
+    QTest::newRow("list folder") << "%:\\pics\\a.jpg"
+                                 << ""
+                                 << ""
+                                 << ""
+                                 << ""
+                                 << "C:\\shows\\a.jpg"
+                                 << "%:|" << 0;
     QTest::newRow("list folder twice, bare name")
-        << "%:a.jpg @WITH=%:\\x\\b.wav ENDWITH" << "" << "" << "" << ""
-        << "C:\\shows\\a.jpg @WITH=C:\\shows\\b.wav ENDWITH" << "%:|" << 0;
-    QTest::newRow("a later line without mark") << "C:\\a.jpg" << "" << "?:" << "D:" << ""
-                                               << "C:\\a.jpg" << "?:|D:" << 0;
-    QTest::newRow("a later line with the mark") << "?:\\b.jpg" << "" << "?:" << "D:" << ""
-                                                << "D:\\b.jpg" << "?:|D:" << 0;
+        << "%:a.jpg @WITH=%:\\x\\b.wav ENDWITH"
+        << ""
+        << ""
+        << ""
+        << ""
+        << "C:\\shows\\a.jpg @WITH=C:\\shows\\b.wav ENDWITH"
+        << "%:|" << 0;
+    QTest::newRow("a later line without mark") << "C:\\a.jpg"
+                                               << ""
+                                               << "?:"
+                                               << "D:"
+                                               << ""
+                                               << "C:\\a.jpg"
+                                               << "?:|D:" << 0;
+    QTest::newRow("a later line with the mark") << "?:\\b.jpg"
+                                                << ""
+                                                << "?:"
+                                                << "D:"
+                                                << ""
+                                                << "D:\\b.jpg"
+                                                << "?:|D:" << 0;
 }
 
 void TestDriveMarks::resolve()
 {
     BasicsFixture f;
-    f.state.ProgramFolder = QFETCH(QString, programFolder);
+    f.state.ProgramFolder = FETCH(QString, programFolder);
     f.state.StartFileName = QStringLiteral("C:\\shows\\show.lst");
-    f.state.ForcedDriveFrom = QFETCH(QString, forcedFrom);
-    f.state.ForcedDriveTo = QFETCH(QString, forcedTo);
+    f.state.ForcedDriveFrom = FETCH(QString, forcedFrom);
+    f.state.ForcedDriveTo = FETCH(QString, forcedTo);
     QFETCH(QString, answer);
     f.host.onAskDrive = [&f, answer](const QString&) {
         f.state.ForcedDriveFrom = QStringLiteral("?:");
         f.state.ForcedDriveTo = answer.toUpper();
     };
-    QCOMPARE(f.basics.ResolveDriveName(QFETCH(QString, line)), QFETCH(QString, result));
-    QCOMPARE(f.state.ForcedDriveFrom + '|' + f.state.ForcedDriveTo, QFETCH(QString, pairAfter));
-    QCOMPARE(f.host.askedMarks.size(), QFETCH(int, asked));
+    QCOMPARE(f.basics.ResolveDriveName(FETCH(QString, line)), FETCH(QString, result));
+    QCOMPARE(f.state.ForcedDriveFrom + '|' + f.state.ForcedDriveTo, FETCH(QString, pairAfter));
+    QCOMPARE(f.host.askedMarks.size(), FETCH(int, asked));
     QVERIFY(f.ui.boxes.isEmpty());
 }
 

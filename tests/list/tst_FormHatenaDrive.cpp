@@ -1,15 +1,17 @@
 // FormHatenaDrive driven by its object names, alone and as the drive window
 // of ResolveDriveName.
-#include "fileops/FormsBasicHost.h"
 #include "fileops/FormStop.h"
+#include "fileops/FormsBasicHost.h"
 #include "list/FormHatenaDrive.h"
 #include "platform/Colors.h"
 #include "platform/Controls.h"
 #include "platform/FileBoxes.h"
 #include "support/BasicsFixture.h"
 
+#include "support/Fetch.h"
 #include <QComboBox>
 #include <QPushButton>
+
 #include <QTest>
 #include <QTimer>
 
@@ -58,10 +60,18 @@ void TestFormHatenaDrive::commandDoTakesThePair_data()
     QTest::addColumn<QString>("drive");
     QTest::addColumn<QString>("from");
     QTest::addColumn<QString>("to");
-    QTest::newRow("plain") << "?:" << "D:" << "?:" << "D:";
-    QTest::newRow("trimmed, capitals, cut at the colon") << " ?: " << " e:\\media " << "?:"
+    QTest::newRow("plain") << "?:"
+                           << "D:"
+                           << "?:"
+                           << "D:";
+    QTest::newRow("trimmed, capitals, cut at the colon") << " ?: "
+                                                         << " e:\\media "
+                                                         << "?:"
                                                          << "E:";
-    QTest::newRow("no colon gives no drive") << "?:" << "D" << "?:" << "";
+    QTest::newRow("no colon gives no drive") << "?:"
+                                             << "D"
+                                             << "?:"
+                                             << "";
 }
 
 void TestFormHatenaDrive::commandDoTakesThePair()
@@ -71,8 +81,8 @@ void TestFormHatenaDrive::commandDoTakesThePair()
     QStringList replaced;
     form.replaceDriveInFileName = [&](const QString& a, const QString& b) { replaced << a << b; };
     form.load();
-    form.ComboHatenaDrive->setEditText(QFETCH(QString, mark));
-    form.ComboNewDrive->setEditText(QFETCH(QString, drive));
+    form.ComboHatenaDrive->setEditText(FETCH(QString, mark));
+    form.ComboNewDrive->setEditText(FETCH(QString, drive));
     QTest::mouseClick(form.findChild<QPushButton*>("CommandDo"), Qt::LeftButton);
     QFETCH(QString, from);
     QFETCH(QString, to);

@@ -47,7 +47,8 @@ private Q_SLOTS:
     void roundHalfEven();
 };
 
-void TestBasic::val_data() {
+void TestBasic::val_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<double>("expected");
 
@@ -98,13 +99,15 @@ void TestBasic::val_data() {
     QTest::newRow("overflow") << "-1E400" << -std::numeric_limits<double>::infinity();
 }
 
-void TestBasic::val() {
+void TestBasic::val()
+{
     QFETCH(QString, text);
     QFETCH(double, expected);
     QCOMPARE(Val(text), expected);
 }
 
-void TestBasic::str_data() {
+void TestBasic::str_data()
+{
     QTest::addColumn<double>("value");
     QTest::addColumn<QString>("expected");
 
@@ -124,13 +127,15 @@ void TestBasic::str_data() {
     QTest::newRow("small") << 1e-7 << " 1E-07";
 }
 
-void TestBasic::str() {
+void TestBasic::str()
+{
     QFETCH(double, value);
     QFETCH(QString, expected);
     QCOMPARE(Str(value), expected);
 }
 
-void TestBasic::format_data() {
+void TestBasic::format_data()
+{
     QTest::addColumn<double>("value");
     QTest::addColumn<QString>("pattern");
     QTest::addColumn<QString>("expected");
@@ -183,20 +188,23 @@ void TestBasic::format_data() {
                                    << "2.5";
 }
 
-void TestBasic::format() {
+void TestBasic::format()
+{
     QFETCH(double, value);
     QFETCH(QString, pattern);
     QFETCH(QString, expected);
     QCOMPARE(Format(value, pattern), expected);
 }
 
-void TestBasic::numbersIgnoreTheLocale_data() {
+void TestBasic::numbersIgnoreTheLocale_data()
+{
     QTest::addColumn<bool>("cLibrary");
     QTest::newRow("Qt default locale German") << false;
     QTest::newRow("C library locale German") << true;
 }
 
-void TestBasic::numbersIgnoreTheLocale() {
+void TestBasic::numbersIgnoreTheLocale()
+{
     QFETCH(bool, cLibrary);
     const QLocale oldDefault;
     const QByteArray oldC = std::setlocale(LC_ALL, nullptr);
@@ -214,7 +222,8 @@ void TestBasic::numbersIgnoreTheLocale() {
     QCOMPARE(Val("1,5"), 1.0);
 }
 
-void TestBasic::trim_data() {
+void TestBasic::trim_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("trimmed");
     QTest::addColumn<QString>("left");
@@ -248,7 +257,8 @@ void TestBasic::trim_data() {
                                       << "a\r\n";
 }
 
-void TestBasic::trim() {
+void TestBasic::trim()
+{
     QFETCH(QString, text);
     QFETCH(QString, trimmed);
     QFETCH(QString, left);
@@ -258,7 +268,8 @@ void TestBasic::trim() {
     QCOMPARE(RTrim(text), right);
 }
 
-void TestBasic::letterCase_data() {
+void TestBasic::letterCase_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("upper");
     QTest::addColumn<QString>("lower");
@@ -273,7 +284,8 @@ void TestBasic::letterCase_data() {
                                 << "c:\\lumentas";
 }
 
-void TestBasic::letterCase() {
+void TestBasic::letterCase()
+{
     QFETCH(QString, text);
     QFETCH(QString, upper);
     QFETCH(QString, lower);
@@ -281,13 +293,15 @@ void TestBasic::letterCase() {
     QCOMPARE(LCase(text), lower);
 }
 
-void TestBasic::space() {
+void TestBasic::space()
+{
     QCOMPARE(Space(3), u"   "_s);
     QCOMPARE(Space(0), QString());
     QCOMPARE(Space(-1), QString());
 }
 
-void TestBasic::inStr_data() {
+void TestBasic::inStr_data()
+{
     QTest::addColumn<int>("start");
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("find");
@@ -326,7 +340,8 @@ void TestBasic::inStr_data() {
                                  << ":" << 2;
 }
 
-void TestBasic::inStr() {
+void TestBasic::inStr()
+{
     QFETCH(int, start);
     QFETCH(QString, text);
     QFETCH(QString, find);
@@ -336,7 +351,8 @@ void TestBasic::inStr() {
         QCOMPARE(InStr(text, find), expected);
 }
 
-void TestBasic::inStrRev_data() {
+void TestBasic::inStrRev_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("find");
     QTest::addColumn<int>("expected");
@@ -359,14 +375,16 @@ void TestBasic::inStrRev_data() {
                                 << "" << 0;
 }
 
-void TestBasic::inStrRev() {
+void TestBasic::inStrRev()
+{
     QFETCH(QString, text);
     QFETCH(QString, find);
     QFETCH(int, expected);
     QCOMPARE(InStrRev(text, find), expected);
 }
 
-void TestBasic::leftRight_data() {
+void TestBasic::leftRight_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("count");
     QTest::addColumn<QString>("left");
@@ -387,7 +405,8 @@ void TestBasic::leftRight_data() {
     QTest::newRow("double-byte") << u"ファイル"_s << 2 << u"ファ"_s << u"イル"_s;
 }
 
-void TestBasic::leftRight() {
+void TestBasic::leftRight()
+{
     QFETCH(QString, text);
     QFETCH(int, count);
     QFETCH(QString, left);
@@ -396,7 +415,8 @@ void TestBasic::leftRight() {
     QCOMPARE(Right(text, count), right);
 }
 
-void TestBasic::mid_data() {
+void TestBasic::mid_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("start");
     QTest::addColumn<int>("count");
@@ -413,7 +433,8 @@ void TestBasic::mid_data() {
     QTest::newRow("double-byte") << u"ファイル名"_s << 3 << 2 << u"イル"_s;
 }
 
-void TestBasic::mid() {
+void TestBasic::mid()
+{
     QFETCH(QString, text);
     QFETCH(int, start);
     QFETCH(int, count);
@@ -423,7 +444,8 @@ void TestBasic::mid() {
         QCOMPARE(Mid(text, start), expected);
 }
 
-void TestBasic::storeInt16_data() {
+void TestBasic::storeInt16_data()
+{
     QTest::addColumn<double>("value");
     QTest::addColumn<bool>("stored");
     QTest::addColumn<int>("expected"); // the target afterwards; it starts at 77
@@ -446,7 +468,8 @@ void TestBasic::storeInt16_data() {
     QTest::newRow("not a number") << nan << false << 77;
 }
 
-void TestBasic::storeInt16() {
+void TestBasic::storeInt16()
+{
     QFETCH(double, value);
     QFETCH(bool, stored);
     QFETCH(int, expected);
@@ -455,7 +478,8 @@ void TestBasic::storeInt16() {
     QCOMPARE(int(target), expected);
 }
 
-void TestBasic::storeInt32_data() {
+void TestBasic::storeInt32_data()
+{
     QTest::addColumn<double>("value");
     QTest::addColumn<bool>("stored");
     QTest::addColumn<qint64>("expected"); // the target afterwards; it starts at 77
@@ -469,7 +493,8 @@ void TestBasic::storeInt32_data() {
     QTest::newRow("infinity") << Val("1E400") << false << qint64(77);
 }
 
-void TestBasic::storeInt32() {
+void TestBasic::storeInt32()
+{
     QFETCH(double, value);
     QFETCH(bool, stored);
     QFETCH(qint64, expected);
@@ -478,7 +503,8 @@ void TestBasic::storeInt32() {
     QCOMPARE(qint64(target), expected);
 }
 
-void TestBasic::clampInt16_data() {
+void TestBasic::clampInt16_data()
+{
     QTest::addColumn<double>("value");
     QTest::addColumn<int>("expected");
 
@@ -489,13 +515,15 @@ void TestBasic::clampInt16_data() {
     QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << 0;
 }
 
-void TestBasic::clampInt16() {
+void TestBasic::clampInt16()
+{
     QFETCH(double, value);
     QFETCH(int, expected);
     QCOMPARE(int(ClampInt16(value)), expected);
 }
 
-void TestBasic::roundHalfEven_data() {
+void TestBasic::roundHalfEven_data()
+{
     QTest::addColumn<double>("value");
     QTest::addColumn<qint64>("expected");
 
@@ -510,7 +538,8 @@ void TestBasic::roundHalfEven_data() {
     QTest::newRow("below 64 bits") << -1e20 << std::numeric_limits<qint64>::min();
 }
 
-void TestBasic::roundHalfEven() {
+void TestBasic::roundHalfEven()
+{
     QFETCH(double, value);
     QFETCH(qint64, expected);
     QCOMPARE(RoundHalfEven(value), expected);

@@ -34,7 +34,8 @@ private:
     std::unique_ptr<QGuiApplication> app_;
 };
 
-void TestColors::bgrFromText_data() {
+void TestColors::bgrFromText_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<qint32>("bgr");
 
@@ -54,13 +55,15 @@ void TestColors::bgrFromText_data() {
     QTest::newRow("past 32 bits") << u"4294967295"_s << qint32(0);
 }
 
-void TestColors::bgrFromText() {
+void TestColors::bgrFromText()
+{
     QFETCH(QString, text);
     QFETCH(qint32, bgr);
     QCOMPARE(lumen::bgrFromText(text), bgr);
 }
 
-void TestColors::bgrToHexText_data() {
+void TestColors::bgrToHexText_data()
+{
     QTest::addColumn<qint32>("bgr");
     QTest::addColumn<QString>("text");
 
@@ -72,14 +75,16 @@ void TestColors::bgrToHexText_data() {
     QTest::newRow("system colour") << kColorButtonFace << u"&H8000000F&"_s;
 }
 
-void TestColors::bgrToHexText() {
+void TestColors::bgrToHexText()
+{
     QFETCH(qint32, bgr);
     QFETCH(QString, text);
     QCOMPARE(lumen::bgrToHexText(bgr), text);
     QCOMPARE(lumen::bgrFromText(text), bgr);
 }
 
-void TestColors::colorFromBgr_data() {
+void TestColors::colorFromBgr_data()
+{
     QTest::addColumn<qint32>("bgr");
     QTest::addColumn<QColor>("color");
 
@@ -92,14 +97,16 @@ void TestColors::colorFromBgr_data() {
     QTest::newRow("black") << qint32(0) << QColor(0, 0, 0);
 }
 
-void TestColors::colorFromBgr() {
+void TestColors::colorFromBgr()
+{
     QFETCH(qint32, bgr);
     QFETCH(QColor, color);
     QCOMPARE(lumen::colorFromBgr(bgr), color);
     QCOMPARE(lumen::bgrFromColor(color), bgr);
 }
 
-void TestColors::systemColorsWithoutDesktop_data() {
+void TestColors::systemColorsWithoutDesktop_data()
+{
     QTest::addColumn<qint32>("bgr");
     QTest::addColumn<QColor>("color");
 
@@ -111,14 +118,16 @@ void TestColors::systemColorsWithoutDesktop_data() {
     QTest::newRow("unknown index") << qint32(0x800000FF) << QColor(0xF0, 0xF0, 0xF0);
 }
 
-void TestColors::systemColorsWithoutDesktop() {
+void TestColors::systemColorsWithoutDesktop()
+{
     QFETCH(qint32, bgr);
     QFETCH(QColor, color);
     QVERIFY(!QCoreApplication::instance());
     QCOMPARE(lumen::colorFromBgr(bgr), color);
 }
 
-void TestColors::systemColorsFollowThePalette_data() {
+void TestColors::systemColorsFollowThePalette_data()
+{
     static int argc = 1;
     static char name[] = "tst_Colors";
     static char* argv[] = {name, nullptr};
@@ -142,13 +151,15 @@ void TestColors::systemColorsFollowThePalette_data() {
     QTest::newRow("plain colour unchanged") << kColorGrey << QColor(0x80, 0x80, 0x80);
 }
 
-void TestColors::systemColorsFollowThePalette() {
+void TestColors::systemColorsFollowThePalette()
+{
     QFETCH(qint32, bgr);
     QFETCH(QColor, color);
     QCOMPARE(lumen::colorFromBgr(bgr), color);
 }
 
-void TestColors::cleanupTestCase() {
+void TestColors::cleanupTestCase()
+{
     app_.reset();
 }
 

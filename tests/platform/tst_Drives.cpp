@@ -11,7 +11,8 @@ namespace {
 
 const QString kHome = QStringLiteral("/home/me");
 
-DriveMap mapWith(const QString& drivesText) {
+DriveMap mapWith(const QString& drivesText)
+{
     DriveMap drives(kHome);
     drives.addFromText(drivesText);
     return drives;
@@ -34,7 +35,8 @@ private Q_SLOTS:
     void defaultTextHoldsWorkingExamples();
 };
 
-void TestDrives::toProgram_data() {
+void TestDrives::toProgram_data()
+{
     QTest::addColumn<QString>("drivesText");
     QTest::addColumn<QString>("native");
     QTest::addColumn<QString>("program");
@@ -92,14 +94,16 @@ void TestDrives::toProgram_data() {
                            << "";
 }
 
-void TestDrives::toProgram() {
+void TestDrives::toProgram()
+{
     QFETCH(QString, drivesText);
     QFETCH(QString, native);
     QFETCH(QString, program);
     QCOMPARE(mapWith(drivesText).toProgram(native), program);
 }
 
-void TestDrives::relativeNativePath() {
+void TestDrives::relativeNativePath()
+{
     QTemporaryDir home;
     QVERIFY(QDir(home.path()).mkpath(QStringLiteral("pics")));
     const QString before = QDir::currentPath();
@@ -112,7 +116,8 @@ void TestDrives::relativeNativePath() {
     QCOMPARE(fromParent, QStringLiteral("C:\\b.jpg"));
 }
 
-void TestDrives::rootOf_data() {
+void TestDrives::rootOf_data()
+{
     QTest::addColumn<QString>("drivesText");
     QTest::addColumn<QString>("program");
     QTest::addColumn<QString>("root");
@@ -141,14 +146,16 @@ void TestDrives::rootOf_data() {
                                   << "";
 }
 
-void TestDrives::rootOf() {
+void TestDrives::rootOf()
+{
     QFETCH(QString, drivesText);
     QFETCH(QString, program);
     QFETCH(QString, root);
     QCOMPARE(mapWith(drivesText).rootOf(program), root);
 }
 
-void TestDrives::addFromText_data() {
+void TestDrives::addFromText_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<QChar>("letter");
     QTest::addColumn<bool>("known");
@@ -201,7 +208,8 @@ void TestDrives::addFromText_data() {
     QTest::newRow("home stays") << "junk" << QChar(u'C') << true << kHome << "";
 }
 
-void TestDrives::addFromText() {
+void TestDrives::addFromText()
+{
     QFETCH(QString, text);
     QFETCH(QChar, letter);
     QFETCH(bool, known);
@@ -215,7 +223,8 @@ void TestDrives::addFromText() {
     QCOMPARE(drives.drive(letter).cdDevice, device);
 }
 
-void TestDrives::lettersInOrder() {
+void TestDrives::lettersInOrder()
+{
     DriveMap drives = mapWith(QStringLiteral("e = /media/usb\nD = /media/cdrom\n1 = /x"));
     drives.setDrive(u'b', Drive{QStringLiteral("/mnt/b"), QString()});
     drives.setDrive(u'%', Drive{QStringLiteral("/mnt/x"), QString()});
@@ -223,7 +232,8 @@ void TestDrives::lettersInOrder() {
     QCOMPARE(drives.toProgram(QStringLiteral("/mnt/b/a.jpg")), QStringLiteral("B:\\a.jpg"));
 }
 
-void TestDrives::defaultTextHoldsWorkingExamples() {
+void TestDrives::defaultTextHoldsWorkingExamples()
+{
     const QString text = DriveMap::defaultDrivesText();
     QCOMPARE(mapWith(text).letters(), (QList<QChar>{u'C', u'Z'}));
 

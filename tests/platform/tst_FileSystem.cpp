@@ -26,7 +26,8 @@ private:
     FileSystem& fs() { return home_->fs; }
 
     // "x/" is a folder, anything else a file holding its own name.
-    void makeEntries(const QStringList& entries) {
+    void makeEntries(const QStringList& entries)
+    {
         for (const QString& entry : entries) {
             if (entry.endsWith(u'/'))
                 home_->makeFolder(entry);
@@ -36,13 +37,15 @@ private:
     }
     // "~" stands for the home in expected native paths, "<Z>" for the home
     // as a path on Z: in program-form input.
-    QString expand(QString text) const {
+    QString expand(QString text) const
+    {
         if (text.startsWith(u'~'))
             text.replace(0, 1, home_->path());
         const QString homeOnZ = u"Z:" + QString(home_->path()).replace(u'/', u'\\');
         return text.replace(QStringLiteral("<Z>"), homeOnZ);
     }
-    void link(const QString& target, const QString& linkName) const {
+    void link(const QString& target, const QString& linkName) const
+    {
         QVERIFY(QFile::link(expand(target), home_->native(linkName)));
     }
 
@@ -78,7 +81,8 @@ private Q_SLOTS:
     void loadDrivesFile();
 };
 
-void TestFileSystem::toNative_data() {
+void TestFileSystem::toNative_data()
+{
     QTest::addColumn<QStringList>("entries");
     QTest::addColumn<QString>("program");
     QTest::addColumn<QString>("native");
@@ -136,7 +140,8 @@ void TestFileSystem::toNative_data() {
                            << "";
 }
 
-void TestFileSystem::toNative() {
+void TestFileSystem::toNative()
+{
     QFETCH(QStringList, entries);
     QFETCH(QString, program);
     QFETCH(QString, native);
@@ -144,7 +149,8 @@ void TestFileSystem::toNative() {
     QCOMPARE(fs().toNative(expand(program)), expand(native));
 }
 
-void TestFileSystem::currentFolder_data() {
+void TestFileSystem::currentFolder_data()
+{
     QTest::addColumn<QString>("folder");
     QTest::addColumn<bool>("changed");
     QTest::addColumn<QString>("current");
@@ -180,7 +186,8 @@ void TestFileSystem::currentFolder_data() {
                                    << "~/a.jpg";
 }
 
-void TestFileSystem::currentFolder() {
+void TestFileSystem::currentFolder()
+{
     QFETCH(QString, folder);
     QFETCH(bool, changed);
     QFETCH(QString, current);
@@ -193,7 +200,8 @@ void TestFileSystem::currentFolder() {
     QCOMPARE(fs().toNative(relative), expand(native));
 }
 
-void TestFileSystem::dir_data() {
+void TestFileSystem::dir_data()
+{
     QTest::addColumn<QStringList>("entries");
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("name");
@@ -249,7 +257,8 @@ void TestFileSystem::dir_data() {
                            << "";
 }
 
-void TestFileSystem::dir() {
+void TestFileSystem::dir()
+{
     QFETCH(QStringList, entries);
     QFETCH(QString, path);
     QFETCH(QString, name);
@@ -257,7 +266,8 @@ void TestFileSystem::dir() {
     QCOMPARE(fs().dir(path), name);
 }
 
-void TestFileSystem::queries_data() {
+void TestFileSystem::queries_data()
+{
     QTest::addColumn<QString>("path");
     QTest::addColumn<bool>("isFile");
     QTest::addColumn<bool>("isFolder");
@@ -274,7 +284,8 @@ void TestFileSystem::queries_data() {
     QTest::newRow("unknown drive") << "Q:\\pics\\a.jpg" << false << false << false << qint64(-1);
 }
 
-void TestFileSystem::queries() {
+void TestFileSystem::queries()
+{
     QFETCH(QString, path);
     QFETCH(bool, isFile);
     QFETCH(bool, isFolder);
@@ -291,7 +302,8 @@ void TestFileSystem::queries() {
     QCOMPARE(fs().fileLength(path), length);
 }
 
-void TestFileSystem::listings_data() {
+void TestFileSystem::listings_data()
+{
     QTest::addColumn<QStringList>("entries");
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("pattern"); // "folders" lists the folders
@@ -317,7 +329,8 @@ void TestFileSystem::listings_data() {
                                    << "folders" << QStringList{};
 }
 
-void TestFileSystem::listings() {
+void TestFileSystem::listings()
+{
     QFETCH(QStringList, entries);
     QFETCH(QString, folder);
     QFETCH(QString, pattern);
@@ -329,7 +342,8 @@ void TestFileSystem::listings() {
         QCOMPARE(fs().files(folder, pattern), names);
 }
 
-void TestFileSystem::namesThatAreNotUtf8() {
+void TestFileSystem::namesThatAreNotUtf8()
+{
     // Names written by a CP932 system: 0x83 0x74 ("フ") isn't UTF-8.
     makeEntries({"old/ok.txt", "old/good/"});
     const QByteArray old = QFile::encodeName(home_->native(QStringLiteral("old")));
@@ -348,7 +362,8 @@ void TestFileSystem::namesThatAreNotUtf8() {
     QVERIFY(!home_->exists(QStringLiteral("old")));
 }
 
-void TestFileSystem::attributes_data() {
+void TestFileSystem::attributes_data()
+{
     QTest::addColumn<QString>("entry");
     QTest::addColumn<int>("mode");
     QTest::addColumn<int>("value");
@@ -363,7 +378,8 @@ void TestFileSystem::attributes_data() {
     QTest::newRow("missing") << "" << 0 << -1;
 }
 
-void TestFileSystem::attributes() {
+void TestFileSystem::attributes()
+{
     QFETCH(QString, entry);
     QFETCH(int, mode);
     QFETCH(int, value);
@@ -377,7 +393,8 @@ void TestFileSystem::attributes() {
     QCOMPARE(fs().attributes(program), value);
 }
 
-void TestFileSystem::clearAttributes() {
+void TestFileSystem::clearAttributes()
+{
     const QString file = home_->writeFile(QStringLiteral("a.jpg"), "x");
     QVERIFY(QFile::setPermissions(file, QFile::ReadOwner | QFile::ReadGroup));
     QCOMPARE(fs().attributes(QStringLiteral("C:\\A.JPG")), 1);
@@ -389,7 +406,8 @@ void TestFileSystem::clearAttributes() {
     QVERIFY(!fs().clearAttributes(QStringLiteral("C:\\none")));
 }
 
-void TestFileSystem::makeFolder_data() {
+void TestFileSystem::makeFolder_data()
+{
     QTest::addColumn<QString>("path");
     QTest::addColumn<bool>("made");
     QTest::addColumn<QString>("folder");
@@ -403,7 +421,8 @@ void TestFileSystem::makeFolder_data() {
     QTest::newRow("unknown drive") << "Q:\\x" << false << "";
 }
 
-void TestFileSystem::makeFolder() {
+void TestFileSystem::makeFolder()
+{
     QFETCH(QString, path);
     QFETCH(bool, made);
     QFETCH(QString, folder);
@@ -415,7 +434,8 @@ void TestFileSystem::makeFolder() {
         QVERIFY(!home_->exists(QStringLiteral("a")));
 }
 
-void TestFileSystem::copyFile_data() {
+void TestFileSystem::copyFile_data()
+{
     QTest::addColumn<QString>("to");
     QTest::addColumn<bool>("copied");
     QTest::addColumn<QString>("target"); // native, under home
@@ -430,7 +450,8 @@ void TestFileSystem::copyFile_data() {
     QTest::newRow("unknown drive") << "Q:\\b.jpg" << false << "old.jpg" << QByteArray("old");
 }
 
-void TestFileSystem::copyFile() {
+void TestFileSystem::copyFile()
+{
     QFETCH(QString, to);
     QFETCH(bool, copied);
     QFETCH(QString, target);
@@ -445,7 +466,8 @@ void TestFileSystem::copyFile() {
              (QStringList{"a.jpg", "old.jpg"})); // no temporary file left over
 }
 
-void TestFileSystem::renameFile_data() {
+void TestFileSystem::renameFile_data()
+{
     QTest::addColumn<QStringList>("entries");
     QTest::addColumn<QString>("from");
     QTest::addColumn<QString>("to");
@@ -480,7 +502,8 @@ void TestFileSystem::renameFile_data() {
         << "C:\\b.jpg" << false << QStringList{} << QStringList{"b.jpg"};
 }
 
-void TestFileSystem::renameFile() {
+void TestFileSystem::renameFile()
+{
     QFETCH(QStringList, entries);
     QFETCH(QString, from);
     QFETCH(QString, to);
@@ -497,7 +520,8 @@ void TestFileSystem::renameFile() {
         QVERIFY2(!onDisk.contains(entry) && !home_->exists(entry), qPrintable(entry));
 }
 
-void TestFileSystem::deleteFile_data() {
+void TestFileSystem::deleteFile_data()
+{
     QTest::addColumn<QString>("path");
     QTest::addColumn<bool>("deleted");
     QTest::addColumn<QString>("gone");
@@ -510,7 +534,8 @@ void TestFileSystem::deleteFile_data() {
     QTest::newRow("missing") << "C:\\none" << false << "";
 }
 
-void TestFileSystem::deleteFile() {
+void TestFileSystem::deleteFile()
+{
     QFETCH(QString, path);
     QFETCH(bool, deleted);
     QFETCH(QString, gone);
@@ -528,7 +553,8 @@ void TestFileSystem::deleteFile() {
         QCOMPARE(home_->readFile(QStringLiteral("pics/a.jpg")), QByteArray("pics/a.jpg"));
 }
 
-void TestFileSystem::deleteTree_data() {
+void TestFileSystem::deleteTree_data()
+{
     QTest::addColumn<QString>("path");
     QTest::addColumn<TreeDeleteResult>("result");
     QTest::addColumn<QString>("gone");
@@ -552,7 +578,8 @@ void TestFileSystem::deleteTree_data() {
     QTest::newRow("unknown drive") << "Q:\\Site" << R::Missing << "";
 }
 
-void TestFileSystem::deleteTree() {
+void TestFileSystem::deleteTree()
+{
     QFETCH(QString, path);
     QFETCH(TreeDeleteResult, result);
     QFETCH(QString, gone);
@@ -578,7 +605,8 @@ void TestFileSystem::deleteTree() {
         QVERIFY2(home_->exists(file), qPrintable(file));
 }
 
-void TestFileSystem::deleteTreeLeavesLinkTargets() {
+void TestFileSystem::deleteTreeLeavesLinkTargets()
+{
     makeEntries({"Site/a.jpg", "Keep/k.txt", "Keep/inner/i.txt"});
     link(QStringLiteral("~/Keep"), QStringLiteral("Site/folderLink"));
     link(QStringLiteral("~/Keep/k.txt"), QStringLiteral("Site/fileLink"));
@@ -590,7 +618,8 @@ void TestFileSystem::deleteTreeLeavesLinkTargets() {
     QCOMPARE(home_->readFile(QStringLiteral("Keep/inner/i.txt")), QByteArray("Keep/inner/i.txt"));
 }
 
-void TestFileSystem::loadDrivesFile() {
+void TestFileSystem::loadDrivesFile()
+{
     home_->makeFolder(QStringLiteral("run"));
     fs().loadDrivesFile(home_->native(QStringLiteral("run")));
     QCOMPARE(home_->readFile(QStringLiteral("run/Drives.txt")),

@@ -30,12 +30,14 @@ class TestLauncher : public QObject {
 private:
     std::unique_ptr<TestHome> home_;
 
-    QString makeExecutable(const QString& relative, const QByteArray& bytes = "#!/bin/sh\n") {
+    QString makeExecutable(const QString& relative, const QByteArray& bytes = "#!/bin/sh\n")
+    {
         const QString file = home_->writeFile(relative, bytes);
         QFile::setPermissions(file, kExecutable);
         return file;
     }
-    QString expand(QString text) const {
+    QString expand(QString text) const
+    {
         if (text.startsWith(u'~'))
             text.replace(0, 1, home_->path());
         const QString homeOnZ = u"Z:" + QString(home_->path()).replace(u'/', u'\\');
@@ -54,7 +56,8 @@ private Q_SLOTS:
     void shellExecuteOpen();
 };
 
-void TestLauncher::splitCommandLine_data() {
+void TestLauncher::splitCommandLine_data()
+{
     QTest::addColumn<QString>("commandLine");
     QTest::addColumn<bool>("found");
     QTest::addColumn<QStringList>("argv"); // "~" is the home
@@ -83,7 +86,8 @@ void TestLauncher::splitCommandLine_data() {
     QTest::newRow("empty") << "" << false << QStringList{};
 }
 
-void TestLauncher::splitCommandLine() {
+void TestLauncher::splitCommandLine()
+{
     QFETCH(QString, commandLine);
     QFETCH(bool, found);
     QFETCH(QStringList, argv);
@@ -104,7 +108,8 @@ void TestLauncher::splitCommandLine() {
     }
 }
 
-void TestLauncher::shellStartsDetached() {
+void TestLauncher::shellStartsDetached()
+{
     makeExecutable(QStringLiteral("My Tool/mark"), kMarkerScript);
     home_->makeFolder(QStringLiteral("work"));
     QVERIFY(home_->fs.chDir(QStringLiteral("C:\\WORK")));
@@ -118,7 +123,8 @@ void TestLauncher::shellStartsDetached() {
     QCOMPARE(home_->readFile(QStringLiteral("marker.txt")), expected);
 }
 
-void TestLauncher::shellWithoutProgram() {
+void TestLauncher::shellWithoutProgram()
+{
     home_->writeFile(QStringLiteral("script.sh"), kMarkerScript); // no exec bit
     ProcessLauncher launcher(home_->fs);
     QVERIFY(!launcher.shell(QStringLiteral("C:\\script.sh C:\\marker.txt")));
@@ -127,7 +133,8 @@ void TestLauncher::shellWithoutProgram() {
     QVERIFY(!home_->exists(QStringLiteral("marker.txt")));
 }
 
-void TestLauncher::shellExecuteOpen_data() {
+void TestLauncher::shellExecuteOpen_data()
+{
     QTest::addColumn<QString>("path");
     QTest::addColumn<bool>("openerOnPath");
     QTest::addColumn<int>("answer");
@@ -140,7 +147,8 @@ void TestLauncher::shellExecuteOpen_data() {
     QTest::newRow("no opener") << "C:\\docs\\help.chm" << false << 2 << "";
 }
 
-void TestLauncher::shellExecuteOpen() {
+void TestLauncher::shellExecuteOpen()
+{
     QFETCH(QString, path);
     QFETCH(bool, openerOnPath);
     QFETCH(int, answer);

@@ -19,17 +19,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QByteArray readBytes(const QString& path) {
+QByteArray readBytes(const QString& path)
+{
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-bool putBytes(const QString& path, const QByteArray& bytes) {
+bool putBytes(const QString& path, const QByteArray& bytes)
+{
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
-QStringList entries(const QString& folder) {
+QStringList entries(const QString& folder)
+{
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
 }
 
@@ -51,7 +54,8 @@ private Q_SLOTS:
     void readTextFile();
 };
 
-void TestSafeFile::writeReplacesWholeFile_data() {
+void TestSafeFile::writeReplacesWholeFile_data()
+{
     QTest::addColumn<std::optional<QByteArray>>("old");
     QTest::addColumn<QByteArray>("bytes");
 
@@ -62,7 +66,8 @@ void TestSafeFile::writeReplacesWholeFile_data() {
         << std::optional(QByteArray(1547, '\0')) << QByteArray(1547, '\xFF');
 }
 
-void TestSafeFile::writeReplacesWholeFile() {
+void TestSafeFile::writeReplacesWholeFile()
+{
     QFETCH(std::optional<QByteArray>, old);
     QFETCH(QByteArray, bytes);
     QTemporaryDir dir;
@@ -75,14 +80,16 @@ void TestSafeFile::writeReplacesWholeFile() {
     QCOMPARE(entries(dir.path()), QStringList{u"Settings.dat"_s}); // no temporary file left
 }
 
-void TestSafeFile::failedWriteKeepsOldFile_data() {
+void TestSafeFile::failedWriteKeepsOldFile_data()
+{
     QTest::addColumn<QString>("situation");
     QTest::newRow("missing folder") << u"missing folder"_s;
     QTest::newRow("target is a folder") << u"target is a folder"_s;
     QTest::newRow("read-only folder") << u"read-only folder"_s;
 }
 
-void TestSafeFile::failedWriteKeepsOldFile() {
+void TestSafeFile::failedWriteKeepsOldFile()
+{
     QFETCH(QString, situation);
     QTemporaryDir dir;
     const QString folder = dir.filePath(u"f"_s);
@@ -119,7 +126,8 @@ void TestSafeFile::failedWriteKeepsOldFile() {
     QCOMPARE(entries(folder), QStringList{u"a.lst"_s});
 }
 
-void TestSafeFile::interruptedWriteKeepsOldFile_data() {
+void TestSafeFile::interruptedWriteKeepsOldFile_data()
+{
     QTest::addColumn<bool>("hasOld");
     QTest::addColumn<bool>("killed"); // by a signal, else by _exit
 
@@ -130,7 +138,8 @@ void TestSafeFile::interruptedWriteKeepsOldFile_data() {
 
 // A child process writes new bytes and dies just before they replace the
 // target. The target must then be the old file, whole, or still absent.
-void TestSafeFile::interruptedWriteKeepsOldFile() {
+void TestSafeFile::interruptedWriteKeepsOldFile()
+{
     QFETCH(bool, hasOld);
     QFETCH(bool, killed);
     QTemporaryDir dir;
@@ -170,7 +179,8 @@ void TestSafeFile::interruptedWriteKeepsOldFile() {
     QCOMPARE(readBytes(target), next);
 }
 
-void TestSafeFile::textFiles_data() {
+void TestSafeFile::textFiles_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<QByteArray>("bytes");
 
@@ -180,7 +190,8 @@ void TestSafeFile::textFiles_data() {
     QTest::newRow("line ends as given") << u"a\nb"_s << QByteArray("a\nb");
 }
 
-void TestSafeFile::textFiles() {
+void TestSafeFile::textFiles()
+{
     QFETCH(QString, text);
     QFETCH(QByteArray, bytes);
     QTemporaryDir dir;
@@ -191,7 +202,8 @@ void TestSafeFile::textFiles() {
     QCOMPARE(lumen::readTextFile(target), std::optional(text));
 }
 
-void TestSafeFile::readTextFile_data() {
+void TestSafeFile::readTextFile_data()
+{
     QTest::addColumn<QString>("situation");
     QTest::addColumn<std::optional<QString>>("expected");
 
@@ -201,7 +213,8 @@ void TestSafeFile::readTextFile_data() {
     QTest::newRow("Shift-JIS file") << u"cp932"_s << std::optional(u"ｺﾒﾝﾄ\r\n"_s);
 }
 
-void TestSafeFile::readTextFile() {
+void TestSafeFile::readTextFile()
+{
     QFETCH(QString, situation);
     QFETCH(std::optional<QString>, expected);
     QTemporaryDir dir;

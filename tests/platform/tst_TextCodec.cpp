@@ -12,7 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QByteArray hex(const char* digits) {
+QByteArray hex(const char* digits)
+{
     return QByteArray::fromHex(digits);
 }
 
@@ -37,7 +38,8 @@ private Q_SLOTS:
     void splitLines();
 };
 
-void TestTextCodec::decodeBytes_data() {
+void TestTextCodec::decodeBytes_data()
+{
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("expected");
 
@@ -68,7 +70,8 @@ void TestTextCodec::decodeBytes_data() {
         << hex("83 74 FF 83 40 A0 83 43") << u"フ"_s + bad + u"ァ"_s + bad + u"イ"_s;
 }
 
-void TestTextCodec::decodeBytes() {
+void TestTextCodec::decodeBytes()
+{
     QFETCH(QByteArray, bytes);
     QFETCH(QString, expected);
     QCOMPARE(decode(bytes), expected);
@@ -76,7 +79,8 @@ void TestTextCodec::decodeBytes() {
 
 // A list of the largest size the program takes, with one damaged byte in the
 // middle: every line before and after it reads.
-void TestTextCodec::largeListDecodesEveryLine() {
+void TestTextCodec::largeListDecodesEveryLine()
+{
     const QByteArray line = hex("83 74 83 40 83 43 83 8B") + " C:\\pics\\" + hex("BA D2 DD C4") +
                             ".jpg,9999," + hex("81 60 87 40") + QByteArray(60, 'x') + "\r\n";
     const int count = 32767;
@@ -95,7 +99,8 @@ void TestTextCodec::largeListDecodesEveryLine() {
     QCOMPARE(lines[count / 2 + 1], expected);
 }
 
-void TestTextCodec::encodeCp932_data() {
+void TestTextCodec::encodeCp932_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<std::optional<QByteArray>>("expected");
 
@@ -116,7 +121,8 @@ void TestTextCodec::encodeCp932_data() {
     QTest::newRow("lone surrogate") << QString(QChar(0xD800)) << none;
 }
 
-void TestTextCodec::encodeCp932() {
+void TestTextCodec::encodeCp932()
+{
     QFETCH(QString, text);
     QFETCH(std::optional<QByteArray>, expected);
     const std::optional<QByteArray> bytes = lumen::text::encodeCp932(text);
@@ -125,7 +131,8 @@ void TestTextCodec::encodeCp932() {
         QCOMPARE(decodeCp932(*bytes), text);
 }
 
-void TestTextCodec::encodeForFile_data() {
+void TestTextCodec::encodeForFile_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<QByteArray>("expected");
 
@@ -142,7 +149,8 @@ void TestTextCodec::encodeForFile_data() {
     QTest::newRow("kana that look like UTF-8") << u"ﾃｽ"_s << kBom + hex("EF BE 83 EF BD BD");
 }
 
-void TestTextCodec::encodeForFile() {
+void TestTextCodec::encodeForFile()
+{
     QFETCH(QString, text);
     QFETCH(QByteArray, expected);
     const QByteArray bytes = lumen::text::encodeForFile(text);
@@ -150,7 +158,8 @@ void TestTextCodec::encodeForFile() {
     QCOMPARE(decode(bytes), text);
 }
 
-void TestTextCodec::encodeField_data() {
+void TestTextCodec::encodeField_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("width");
     QTest::addColumn<QByteArray>("expected");
@@ -174,7 +183,8 @@ void TestTextCodec::encodeField_data() {
                                << QByteArray("IPAPGothic Bold");
 }
 
-void TestTextCodec::encodeField() {
+void TestTextCodec::encodeField()
+{
     QFETCH(QString, text);
     QFETCH(int, width);
     QFETCH(QByteArray, expected);
@@ -183,7 +193,8 @@ void TestTextCodec::encodeField() {
     QVERIFY(text.startsWith(decode(field)));
 }
 
-void TestTextCodec::splitLines_data() {
+void TestTextCodec::splitLines_data()
+{
     QTest::addColumn<QString>("text");
     QTest::addColumn<QStringList>("expected");
 
@@ -201,7 +212,8 @@ void TestTextCodec::splitLines_data() {
     QTest::newRow("blanks and tabs kept") << u" a \t\r\n\t"_s << QStringList{u" a \t"_s, u"\t"_s};
 }
 
-void TestTextCodec::splitLines() {
+void TestTextCodec::splitLines()
+{
     QFETCH(QString, text);
     QFETCH(QStringList, expected);
     QCOMPARE(lumen::text::splitLines(text), expected);

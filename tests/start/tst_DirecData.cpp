@@ -3,9 +3,11 @@
 #include "platform/SafeFile.h"
 #include "start/DirecData.h"
 
+#include "support/Fetch.h"
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
+
 #include <QTest>
 
 #include <sys/wait.h>
@@ -95,9 +97,10 @@ void TestDirecData::fieldsAtTheirOffsets_data()
     QTest::newRow("FormModPic 4th") << 1165 << le16(7);
     QTest::newRow("FormPastComment height") << 1173 << le16(4000);
     QTest::newRow("LastListFile Shift-JIS")
-        << 1445 << padded(cp932({'C', ':', '\\', 0x83, 0x74, 0x83, 0x40, 0x83, 0x43, 0x83, 0x8B,
-                                 '.', 'l', 's', 't'}),
-                          100);
+        << 1445
+        << padded(cp932({'C', ':', '\\', 0x83, 0x74, 0x83, 0x40, 0x83, 0x43, 0x83, 0x8B, '.', 'l',
+                         's', 't'}),
+                  100);
     QTest::newRow("ListAutoStart true") << 1545 << le16(-1);
 }
 
@@ -149,12 +152,12 @@ void TestDirecData::textsArePaddedAndCut_data()
                                << "IPAPGothic Extr";
     // 8 double-byte characters need 16 bytes: the last whole one is dropped.
     QTest::newRow("Japanese cut at a character")
-        << "ＭＳ　Ｐゴシック体" << padded(cp932({0x82, 0x6C, 0x82, 0x72, 0x81, 0x40, 0x82, 0x6F,
-                                         0x83, 0x53, 0x83, 0x56, 0x83, 0x62}),
-                                  15)
+        << "ＭＳ　Ｐゴシック体"
+        << padded(cp932({0x82, 0x6C, 0x82, 0x72, 0x81, 0x40, 0x82, 0x6F, 0x83, 0x53, 0x83, 0x56,
+                         0x83, 0x62}),
+                  15)
         << "ＭＳ　Ｐゴシッ";
-    QTest::newRow("not CP932: UTF-8") << "한글" << padded("\xED\x95\x9C\xEA\xB8\x80", 15)
-                                      << "한글";
+    QTest::newRow("not CP932: UTF-8") << "한글" << padded("\xED\x95\x9C\xEA\xB8\x80", 15) << "한글";
 }
 
 void TestDirecData::textsArePaddedAndCut()
@@ -164,7 +167,7 @@ void TestDirecData::textsArePaddedAndCut()
     FixedString<15> field;
     field = text;
     QCOMPARE(field.bytes(), bytes);
-    QCOMPARE(FixedText(field), QFETCH(QString, fixedText));
+    QCOMPARE(FixedText(field), FETCH(QString, fixedText));
 }
 
 void TestDirecData::anyBytesRoundTrip()
@@ -203,8 +206,8 @@ void TestDirecData::shortAndLongFiles()
     file.write(content);
     file.close();
     const DirecDataRecord record = readDirecData(path);
-    QCOMPARE(int(record.AutoPageInterval), QFETCH(int, autoPageInterval));
-    QCOMPARE(FixedText(record.CommentFontName), QFETCH(QString, commentFont));
+    QCOMPARE(int(record.AutoPageInterval), FETCH(int, autoPageInterval));
+    QCOMPARE(FixedText(record.CommentFontName), FETCH(QString, commentFont));
     QCOMPARE(readAll(path), content); // reading never changes the file
 }
 

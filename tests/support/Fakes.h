@@ -19,9 +19,9 @@ namespace lumen::test {
 class FakeClock : public Clock {
 public:
     qint64 now = 0;
-    QList<qint64> waits;                 // length of each wait, in order
-    std::function<void(qint64)> onWait;  // called with the wait's length
-    std::function<void()> onDoEvents;    // called at every DoEvents
+    QList<qint64> waits;                // length of each wait, in order
+    std::function<void(qint64)> onWait; // called with the wait's length
+    std::function<void()> onDoEvents;   // called at every DoEvents
     int doEventsCount = 0;
     bool pumpEvents = true;
 
@@ -38,14 +38,14 @@ public:
         int left, top;
         QString text;
     };
-    QStringList boxes;        // texts of message boxes and questions, in order
-    QStringList questions;    // texts of the Yes/No questions only
-    QQueue<int> answers;      // answers to questions; kAnswerYes when empty
-    QQueue<std::optional<QString>> inputs;     // answers of input boxes
-    QQueue<std::optional<QString>> fileNames;  // answers of file dialogs
-    QQueue<QString> folders;                   // answers of the folder dialog
+    QStringList boxes;                        // texts of message boxes and questions, in order
+    QStringList questions;                    // texts of the Yes/No questions only
+    QQueue<int> answers;                      // answers to questions; kAnswerYes when empty
+    QQueue<std::optional<QString>> inputs;    // answers of input boxes
+    QQueue<std::optional<QString>> fileNames; // answers of file dialogs
+    QQueue<QString> folders;                  // answers of the folder dialog
     int beeps = 0;
-    QList<Message> messages;  // FormMessage shows
+    QList<Message> messages; // FormMessage shows
     bool messageShown = false;
     std::function<void(const QString&)> onBox; // runs when a box shows
 

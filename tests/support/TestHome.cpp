@@ -35,8 +35,14 @@ QByteArray TestHome::readFile(const QString& relative) const
     return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
 }
 
-bool TestHome::exists(const QString& relative) const { return QFileInfo::exists(native(relative)); }
+bool TestHome::exists(const QString& relative) const
+{
+    return QFileInfo::exists(native(relative));
+}
 
-void TestHome::makeFolder(const QString& relative) const { QDir().mkpath(native(relative)); }
+void TestHome::makeFolder(const QString& relative) const
+{
+    QDir().mkpath(native(relative));
+}
 
 } // namespace lumen::test

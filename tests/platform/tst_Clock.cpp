@@ -1,0 +1,104 @@
+// The real clock's waits: events run inside them, the thread sleeps, and an
+// ending program leaves them at once.
+#include "platform/Clock.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+#include <QTimer>
+
+#include <ctime>
+
+using namespace lumen;
+
+namespace {
+
+double processorMs()
+{
+    timespec ts{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &ts);
+    return ts.tv_sec * 1000.0 + ts.tv_nsec / 1e6;
+}
+
+} // namespace
+
+class TestClock : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void tickCountIsMonotonicMilliseconds();
+    void waitLastsAndLetsEventsRun();
+    void waitSleepsInsteadOfSpinning();
+    void nestedWaitEndsFirst();
+    void endingLeavesTheWait();
+    void pastTargetReturnsAtOnce();
+};
+
+void TestClock::tickCountIsMonotonicMilliseconds()
+{
+    RealClock clock;
+    const qint64 first = clock.tickCount();
+    QTest::qSleep(30);
+    const qint64 second = clock.tickCount();
+    QVERIFY(second - first >= 29);
+    QVERIFY(second - first < 500);
+}
+
+void TestClock::waitLastsAndLetsEventsRun()
+{
+    RealClock clock;
+    int fired = 0;
+    QTimer::singleShot(20, this, [&] { ++fired; });
+    QElapsedTimer timer;
+    timer.start();
+    clock.waitUntil(clock.tickCount() + 120);
+    QVERIFY(timer.elapsed() >= 119);
+    QCOMPARE(fired, 1);
+}
+
+void TestClock::waitSleepsInsteadOfSpinning()
+{
+    RealClock clock;
+    const double before = processorMs();
+    clock.waitUntil(clock.tickCount() + 400);
+    const double used = processorMs() - before;
+    QVERIFY2(used < 40,
+             qPrintable(QStringLiteral("%1 ms of processor in a 400 ms wait").arg(used)));
+}
+
+void TestClock::nestedWaitEndsFirst()
+{
+    RealClock clock;
+    QStringList order;
+    QTimer::singleShot(10, this, [&] {
+        clock.waitUntil(clock.tickCount() + 50);
+        order << QStringLiteral("inner");
+    });
+    clock.waitUntil(clock.tickCount() + 20);
+    order << QStringLiteral("outer");
+    QCOMPARE(order, (QStringList{"inner", "outer"}));
+}
+
+void TestClock::endingLeavesTheWait()
+{
+    RealClock clock;
+    QTimer::singleShot(30, this, [&] { clock.setEnding(true); });
+    QElapsedTimer timer;
+    timer.start();
+    clock.waitUntil(clock.tickCount() + 5000);
+    QVERIFY(timer.elapsed() < 1000);
+    QVERIFY(clock.ending());
+    timer.restart();
+    clock.waitUntil(clock.tickCount() + 5000); // later waits don't wait at all
+    QVERIFY(timer.elapsed() < 50);
+}
+
+void TestClock::pastTargetReturnsAtOnce()
+{
+    RealClock clock;
+    QElapsedTimer timer;
+    timer.start();
+    clock.waitUntil(clock.tickCount() - 100);
+    QVERIFY(timer.elapsed() < 20);
+}
+
+QTEST_GUILESS_MAIN(TestClock)
+#include "tst_Clock.moc"
