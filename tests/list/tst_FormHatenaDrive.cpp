@@ -7,6 +7,7 @@
 #include "platform/Controls.h"
 #include "platform/FileBoxes.h"
 #include "support/BasicsFixture.h"
+#include "support/Shots.h"
 
 #include "support/Fetch.h"
 #include <QComboBox>
@@ -49,6 +50,8 @@ void TestFormHatenaDrive::loadShowsTheDriveAndItsLists()
         names << files->item(i)->text();
     QCOMPARE(names, (QStringList{"a.lst", "B.LST"}));
 
+    form.show();
+    saveShot(&form, QStringLiteral("FormHatenaDrive"));
     drive->setDrive(QStringLiteral("z:"));
     QCOMPARE(newDrive->currentText(), QStringLiteral("Z:"));
     QCOMPARE(form.Dir1->path(), QStringLiteral("Z:\\"));
