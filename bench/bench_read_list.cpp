@@ -8,7 +8,7 @@
 #include "platform/Launcher.h"
 #include "platform/TextCodec.h"
 #include "platform/UserDialogs.h"
-#include "start/ProgramState.h"
+#include "state/ProgramState.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -6,7 +6,7 @@
 #include "platform/Basic.h"
 #include "platform/Clock.h"
 #include "platform/UserDialogs.h"
-#include "start/ProgramState.h"
+#include "state/ProgramState.h"
 
 namespace lumen {
 namespace {

@@ -3,7 +3,7 @@
 #include "platform/ClickLabel.h"
 #include "platform/Colors.h"
 #include "platform/Controls.h"
-#include "start/ProgramState.h"
+#include "state/ProgramState.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>

@@ -7,7 +7,7 @@
 #include "platform/SafeFile.h"
 #include "platform/TextCodec.h"
 #include "platform/UserDialogs.h"
-#include "start/ProgramState.h"
+#include "state/ProgramState.h"
 
 #include <QDateTime>
 #include <QFile>

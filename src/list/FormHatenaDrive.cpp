@@ -6,7 +6,7 @@
 #include "platform/FileBoxes.h"
 #include "platform/FileSystem.h"
 #include "platform/UserDialogs.h"
-#include "start/ProgramState.h"
+#include "state/ProgramState.h"
 
 #include <QComboBox>
 #include <QGridLayout>

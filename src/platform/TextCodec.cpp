@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstring>
 #include <iconv.h>
+#include <vector>
 
 namespace lumen::text {
 
@@ -78,6 +79,38 @@ QByteArray cutUtf8(const QByteArray& bytes, int width)
     return bytes.left(end);
 }
 
+// The characters that CP932 bytes decode to. iconv also maps a few others
+// one way only ("¥" to "\\", "−" to "－", "〜" to "～"); those would read back
+// as other characters, so a text holding them doesn't fit CP932. The table is
+// made once, from every one- and two-byte code.
+const std::vector<bool>& cp932Image()
+{
+    static const std::vector<bool> image = [] {
+        std::vector<bool> seen(0x10000, false);
+        QByteArray codes;
+        for (int byte = 0; byte < 0x100; ++byte) {
+            if (!isCp932LeadByte(uchar(byte)))
+                codes.append(char(byte));
+        }
+        const QString singles = decodeCp932(codes);
+        for (QChar c : singles)
+            seen[c.unicode()] = true;
+        for (int lead = 0x81; lead <= 0xFC; ++lead) {
+            if (!isCp932LeadByte(uchar(lead)))
+                continue;
+            for (int trail = 0x40; trail <= 0xFC; ++trail) {
+                const char pair[2] = {char(lead), char(trail)};
+                const QString one = decodeCp932(QByteArray(pair, 2));
+                if (one.size() == 1)
+                    seen[one[0].unicode()] = true;
+            }
+        }
+        seen[QChar::ReplacementCharacter] = false;
+        return seen;
+    }();
+    return image;
+}
+
 } // namespace
 
 QString decode(const QByteArray& bytes)
@@ -120,6 +153,11 @@ QString decodeCp932(const QByteArray& bytes)
 
 std::optional<QByteArray> encodeCp932(const QString& text)
 {
+    const std::vector<bool>& image = cp932Image();
+    for (QChar c : text) {
+        if (c.unicode() >= 0x80 && !image[c.unicode()])
+            return std::nullopt;
+    }
     Converter cp932(kCp932, kUtf16);
     if (!cp932.valid())
         return std::nullopt;
@@ -132,11 +170,6 @@ std::optional<QByteArray> encodeCp932(const QString& text)
     if (!cp932.convert(in, inLeft, out, outLeft) || inLeft != 0)
         return std::nullopt;
     bytes.truncate(out - bytes.constData());
-
-    // iconv maps a few characters one way only ("¥" to "\", "−" to "－", "〜"
-    // to "～"); they would read back as other characters, so they don't fit.
-    if (decodeCp932(bytes) != text)
-        return std::nullopt;
     return bytes;
 }
 

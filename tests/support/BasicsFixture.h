@@ -3,7 +3,7 @@
 #pragma once
 
 #include "fileops/VeroProcedure_Basical.h"
-#include "start/ProgramState.h"
+#include "state/ProgramState.h"
 #include "support/FakeBasicHost.h"
 #include "support/Fakes.h"
 #include "support/TestHome.h"

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "fileops/BasicHost.h"
-#include "start/ProgramState.h"
+#include "state/ProgramState.h"
 
 #include <QStringList>
 #include <functional>

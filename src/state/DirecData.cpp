@@ -1,4 +1,4 @@
-#include "start/DirecData.h"
+#include "state/DirecData.h"
 
 #include "platform/SafeFile.h"
 

@@ -4,7 +4,7 @@
 // a Boolean is -1 for True.
 #pragma once
 
-#include "start/FixedString.h"
+#include "state/FixedString.h"
 
 #include <QByteArray>
 #include <QString>

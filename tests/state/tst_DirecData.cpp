@@ -1,7 +1,7 @@
 // The settings record: its bytes at their offsets, damaged files, safe writes.
 #include "fileops/BasicText.h"
 #include "platform/SafeFile.h"
-#include "start/DirecData.h"
+#include "state/DirecData.h"
 
 #include "support/Fetch.h"
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "start/ProgramState.h"
+#include "state/ProgramState.h"
 
 namespace lumen {
 

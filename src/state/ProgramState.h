@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/StringGrid.h"
-#include "start/DirecData.h"
+#include "state/DirecData.h"
 
 #include <QString>
 #include <QStringList>
