@@ -50,9 +50,16 @@ QString replaceListMarks(QString line, const QString& listFolder)
 QString VeroProcedure_Basical::ResolveDriveName(const QString& line)
 {
     ProgramState& s = state_;
-    const bool app = line.contains(kAppMark);
-    const bool ask = line.contains(kAskMark);
-    const bool list = line.contains(kListMark);
+    bool app = false;
+    bool ask = false;
+    bool list = false;
+    for (qsizetype colon = line.indexOf(QLatin1Char(':'), 1); colon > 0;
+         colon = line.indexOf(QLatin1Char(':'), colon + 1)) {
+        const QChar mark = line[colon - 1];
+        app = app || mark == QLatin1Char('*');
+        ask = ask || mark == QLatin1Char('?');
+        list = list || mark == QLatin1Char('%');
+    }
     QString result = line;
 
     if (app || ask || list) {

@@ -273,7 +273,8 @@ void VeroProcedure_Basical::WriteTextToFile(const QString& text, const QString& 
 struct VeroProcedure_Basical::ReadResult {
     bool ok = false;
     QString text;
-    int kept = 0; // lines that weren't blank (cleaning only)
+    int kept = 0;     // lines that weren't blank (cleaning only)
+    QString original; // the file's text as read (cleaning only)
 };
 
 VeroProcedure_Basical::ReadResult VeroProcedure_Basical::readLinesChunked(const QString& path,
@@ -288,7 +289,7 @@ VeroProcedure_Basical::ReadResult VeroProcedure_Basical::readLinesChunked(const 
     QFile file(nativePath(path));
     if (!file.open(QIODevice::ReadOnly))
         return fail(kErrorFileNotFound);
-    const QString whole = text::decode(file.readAll());
+    QString whole = text::decode(file.readAll());
     file.close();
 
     ReadResult result;
@@ -346,6 +347,8 @@ VeroProcedure_Basical::ReadResult VeroProcedure_Basical::readLinesChunked(const 
             host_.setStopText(QString::number(chunk * kChunkLines));
     }
     result.ok = true;
+    if (cleaning)
+        result.original = std::move(whole);
     return result;
 }
 
@@ -362,7 +365,9 @@ QString VeroProcedure_Basical::ReadTextOfFile(const QString& path)
     return read.text;
 }
 
-int VeroProcedure_Basical::CleanListFile(const QString& path)
+int VeroProcedure_Basical::CleanListFile(const QString& path) { return CleanListFile(path, nullptr); }
+
+int VeroProcedure_Basical::CleanListFile(const QString& path, QString* cleanedText)
 {
     if (!FileExists(path))
         return 0;
@@ -373,10 +378,15 @@ int VeroProcedure_Basical::CleanListFile(const QString& path)
         while (read.text.endsWith(QLatin1Char('\r')) || read.text.endsWith(QLatin1Char('\n')))
             read.text.chop(1);
         read.text += kCrLf; // as WriteTextToFile prints it, without a second copy
-        writeTextFileSafely(nativePath(path), read.text);
+        // A file that already holds this text is left as it is.
+        if (read.text != read.original)
+            writeTextFileSafely(nativePath(path), read.text);
+        read.original.clear();
         host_.unloadStop();
         WaitForFileReady(path);
     }
+    if (cleanedText)
+        *cleanedText = std::move(read.text);
     return read.kept;
 }
 

@@ -41,6 +41,9 @@ public:
     void WriteTextToFile(const QString& text, const QString& path);
     QString ReadTextOfFile(const QString& path);
     int CleanListFile(const QString& path);
+    // The same, handing back the text now in the file (lines parted and
+    // ended by CR LF), so that a reader need not read it again.
+    int CleanListFile(const QString& path, QString* cleanedText);
 
     // Waits, sound and messages.
     void WaitMilliseconds(double milliseconds);
@@ -68,6 +71,7 @@ public:
     static QString MovieWrapperHtml(const QString& movie);
 
     ProgramState& state() { return state_; }
+    const ProgramState& state() const { return state_; }
     const Services& services() const { return services_; }
     BasicHost& host() { return host_; }
 

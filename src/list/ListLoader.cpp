@@ -1,0 +1,106 @@
+#include "list/ListLoader.h"
+
+#include "fileops/VeroProcedure_Basical.h"
+#include "list/CommandWords.h"
+#include "list/ListGrammar.h"
+#include "platform/Basic.h"
+#include "platform/FileSystem.h"
+#include "platform/UserDialogs.h"
+#include "state/ProgramState.h"
+
+namespace lumen {
+namespace {
+
+using namespace basic;
+
+constexpr int kChunkLines = 50;
+
+void setRow(StringGrid& grid, int row, const ListRow& values)
+{
+    grid.set(kColMain, row, values.main);
+    grid.set(kColWith, row, values.with);
+    grid.set(kColDelay, row, values.delay);
+    grid.set(kColComment, row, values.comment);
+    grid.set(kColOption, row, values.option);
+}
+
+} // namespace
+
+QString workingCopyName(const VeroProcedure_Basical& basics)
+{
+    return basics.state().ProgramRunDir + QStringLiteral("\\TempList.Lst");
+}
+
+int prepareWorkingCopy(VeroProcedure_Basical& basics, const QString& fileName, QString* text)
+{
+    ProgramState& state = basics.state();
+    state.DirecData.LastListFile = fileName;
+    state.AppDrive = Left(state.ProgramFolder, 2);
+    const QString copy = workingCopyName(basics);
+    FileSystem& fs = basics.services().fs;
+    if (fs.toNative(fileName) != fs.toNative(copy))
+        fs.copyFile(fileName, copy);
+    const int count = basics.CleanListFile(copy, text);
+    if (count > kMostListRows) {
+        basics.services().ui.msgBox(QStringLiteral("選択したファイル数は ") + QString::number(count) +
+                                    QStringLiteral("個です。エディターでファイル数を32763個未満にして"
+                                                   "ください。"));
+        return -1;
+    }
+    return count;
+}
+
+ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int count)
+{
+    ProgramState& state = basics.state();
+    state.ListArray.redim(kListColumns, count + 1);
+    SetCommandWords(basics, listLanguageOf(text));
+    state.ListFileName = workingCopyName(basics);
+
+    ListFill fill;
+    QString display;
+    display.reserve(text.size());
+    const QStringView all(text);
+    qsizetype pos = 0;
+    int lineNo = 0;
+    while (pos < all.size()) {
+        qsizetype end = all.indexOf(QLatin1Char('\n'), pos);
+        if (end < 0)
+            end = all.size();
+        QStringView view = all.mid(pos, end - pos);
+        if (view.endsWith(QLatin1Char('\r')))
+            view.chop(1);
+        pos = end + 1;
+
+        if (++lineNo % kChunkLines == 0)
+            basics.DoEvents();
+        if (state.StopRequested) {
+            fill.stopped = true;
+            return fill;
+        }
+        ++fill.fileCount;
+        const QString line = view.toString();
+        switch (lineKindOf(line)) {
+        case LineKind::TooIndented:
+            continue;
+        case LineKind::Comment:
+            --fill.fileCount;
+            continue;
+        case LineKind::Command:
+            break;
+        }
+        const ParsedLine parsed = parseListLine(line, state.CommandWord);
+        setRow(state.ListArray, fill.fileCount, parsed.row);
+        if (!parsed.missingEndWord.isEmpty())
+            basics.services().ui.msgBox(parsed.missingEndWord);
+        const QString trimmed = Trim(line);
+        if (!trimmed.isEmpty()) {
+            display += trimmed;
+            display += QStringLiteral("\r\n");
+        }
+    }
+    fill.displayText = Trim(display) + QLatin1Char('\r');
+    return fill;
+}
+
+} // namespace lumen

@@ -1,0 +1,246 @@
+// FormMain: its controls and how they are wired.
+#include "show/FormMain.h"
+
+#include "display/PictureBox.h"
+#include "fileops/VeroProcedure_Basical.h"
+#include "platform/ClickLabel.h"
+#include "platform/Colors.h"
+#include "platform/Controls.h"
+#include "platform/FormRegistry.h"
+#include "state/ProgramState.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace lumen {
+namespace {
+
+QPushButton* button(const QString& name, const QString& caption, QWidget* parent)
+{
+    auto* b = new QPushButton(caption, parent);
+    b->setObjectName(name);
+    b->setAutoDefault(false);
+    return b;
+}
+
+QCheckBox* checkBox(const QString& name, const QString& caption, QWidget* parent)
+{
+    auto* box = new QCheckBox(caption, parent);
+    box->setObjectName(name);
+    return box;
+}
+
+QLineEdit* textBox(const QString& name, const QString& text, QWidget* parent)
+{
+    auto* box = new QLineEdit(text, parent);
+    box->setObjectName(name);
+    return box;
+}
+
+QGroupBox* frame(const QString& name, QWidget* parent)
+{
+    auto* box = new QGroupBox(parent);
+    box->setObjectName(name);
+    return box;
+}
+
+QScrollBar* scrollBar(const QString& name, QWidget* parent)
+{
+    auto* bar = new QScrollBar(Qt::Horizontal, parent);
+    bar->setObjectName(name);
+    return bar;
+}
+
+} // namespace
+
+FormMain::FormMain(VeroProcedure_Basical& basics, FormRegistry& forms, QWidget* parent)
+    : FormBase(QStringLiteral("FormMain"), parent)
+    , basics_(basics)
+    , state_(basics.state())
+    , forms_(forms)
+{
+    setWindowTitle(QStringLiteral("Lumenta_KDR"));
+    buildDisplay();
+    buildFrame1();
+    buildFrame2();
+    buildFrame3();
+    connectHandlers();
+}
+
+void FormMain::buildFrame1()
+{
+    Frame1 = frame(QStringLiteral("Frame1"), this);
+    Frame1->setFixedWidth(106);
+    CommandOpenFileList = button(QStringLiteral("CommandOpenFileList"),
+                                 QStringLiteral("ﾘｽﾄを開く"), Frame1);
+    CommandOpenFileList->setAcceptDrops(true);
+    CheckQuiCkWork = checkBox(QStringLiteral("CheckQuiCkWork"), QStringLiteral("ｸｲｯｸ"), Frame1);
+    LabelDo = new ClickLabel(QStringLiteral("LabelDo"), QStringLiteral("表示"), Frame1);
+    LabelDo->setAlignment(Qt::AlignCenter);
+    LabelDo->setFrameShape(QFrame::Box);
+    CommandLeft = button(QStringLiteral("CommandLeft"), QStringLiteral("←"), Frame1);
+    CommandRight = button(QStringLiteral("CommandRight"), QStringLiteral("→"), Frame1);
+    LabelSmall = new ClickLabel(QStringLiteral("LabelSmall"), QString(), Frame1);
+    LabelMax = new ClickLabel(QStringLiteral("LabelMax"), QString(), Frame1);
+    for (ClickLabel* end : {LabelSmall, LabelMax}) {
+        end->setFixedSize(8, 16);
+        setBackColor(end, kColorGrey);
+    }
+    HScrollPicNom = scrollBar(QStringLiteral("HScrollPicNom"), Frame1);
+    HScrollPicNom->setRange(0, 1);
+    TextCount = textBox(QStringLiteral("TextCount"), QString(), Frame1);
+    TextTotal = textBox(QStringLiteral("TextTotal"), QString(), Frame1);
+    TextTotal->setReadOnly(true);
+    CommandHatenaSettei = button(QStringLiteral("CommandHatenaSettei"),
+                                 QStringLiteral("ﾄﾞﾗｲﾌﾞ設定"), Frame1);
+    CommandIELeft = button(QStringLiteral("CommandIELeft"), QStringLiteral("戻"), Frame1);
+    CommandIERight = button(QStringLiteral("CommandIERight"), QStringLiteral("進"), Frame1);
+    CommandExit = button(QStringLiteral("CommandExit"), QStringLiteral("終了"), Frame1);
+
+    auto* column = new QVBoxLayout(Frame1);
+    column->setContentsMargins(4, 6, 4, 6);
+    column->addWidget(CommandOpenFileList);
+    column->addWidget(CheckQuiCkWork);
+    column->addSpacing(8);
+    auto* arrows = new QHBoxLayout;
+    arrows->addWidget(CommandLeft);
+    arrows->addWidget(CommandRight);
+    column->addLayout(arrows);
+    auto* bar = new QHBoxLayout;
+    bar->setSpacing(1);
+    bar->addWidget(LabelSmall);
+    bar->addWidget(HScrollPicNom, 1);
+    bar->addWidget(LabelMax);
+    column->addLayout(bar);
+    auto* count = new QHBoxLayout;
+    count->addWidget(TextCount);
+    count->addWidget(new QLabel(QStringLiteral("/"), Frame1));
+    count->addWidget(TextTotal);
+    column->addLayout(count);
+    column->addWidget(LabelDo);
+    column->addSpacing(8);
+    column->addWidget(CommandHatenaSettei);
+    auto* web = new QHBoxLayout;
+    web->addWidget(CommandIELeft);
+    web->addWidget(CommandIERight);
+    column->addLayout(web);
+    column->addStretch(1);
+    column->addWidget(CommandExit);
+}
+
+void FormMain::buildFrame2()
+{
+    Frame2 = frame(QStringLiteral("Frame2"), this);
+    CommandModPic = button(QStringLiteral("CommandModPic"), QStringLiteral("線の作図"), Frame2);
+    CommandSaveImage = button(QStringLiteral("CommandSaveImage"), QStringLiteral("画像保存"), Frame2);
+    CommandScrollSizeAllowValue = button(QStringLiteral("CommandScrollSizeAllowValue"),
+                                         QStringLiteral("許容値"), Frame2);
+    CheckOriginalSize = checkBox(QStringLiteral("CheckOriginalSize"), QStringLiteral("原寸"), Frame2);
+    CommandFull = button(QStringLiteral("CommandFull"), QStringLiteral("FILL表示"), Frame2);
+    CommandOption = button(QStringLiteral("CommandOption"), QStringLiteral("自動ﾍﾟｰｼﾞ"), Frame2);
+    CommandEdit = button(QStringLiteral("CommandEdit"), QStringLiteral("ﾘｽﾄ作成"), Frame2);
+    CommandWriteCommentOnPic = button(QStringLiteral("CommandWriteCommentOnPic"),
+                                      QStringLiteral("画像にｺﾒﾝﾄ貼付け"), Frame2);
+    CommandMakeHTML = button(QStringLiteral("CommandMakeHTML"), QStringLiteral("HTML作成"), Frame2);
+    auto* row = new QHBoxLayout(Frame2);
+    row->setContentsMargins(4, 2, 4, 2);
+    row->setSpacing(3);
+    for (QWidget* w : std::initializer_list<QWidget*>{
+             CommandModPic, CommandSaveImage, CommandScrollSizeAllowValue, CheckOriginalSize,
+             CommandFull, CommandOption, CommandEdit, CommandWriteCommentOnPic, CommandMakeHTML})
+        row->addWidget(w);
+}
+
+void FormMain::buildFrame3()
+{
+    Frame3 = frame(QStringLiteral("Frame3"), this);
+    TextFileName = textBox(QStringLiteral("TextFileName"), QString(), Frame3);
+    TextHeadName = textBox(QStringLiteral("TextHeadName"), QStringLiteral("MyPicture"), Frame3);
+    TextNum = textBox(QStringLiteral("TextNum"), QStringLiteral("001"), Frame3);
+    TextHeadName->setFixedWidth(90);
+    TextNum->setFixedWidth(40);
+    CommandCopy = button(QStringLiteral("CommandCopy"), QStringLiteral("ｺﾋﾟｰ"), Frame3);
+    CommandDeleate = button(QStringLiteral("CommandDeleate"), QStringLiteral("削除"), Frame3);
+    CommandRecov = button(QStringLiteral("CommandRecov"), QStringLiteral("復元"), Frame3);
+    FrameTextHide = frame(QStringLiteral("FrameTextHide"), Frame3);
+    CheckWaveHide = checkBox(QStringLiteral("CheckWaveHide"), QStringLiteral("隠サウンド"), FrameTextHide);
+    CheckCommentHide = checkBox(QStringLiteral("CheckCommentHide"), QStringLiteral("隠コメント"),
+                                FrameTextHide);
+    CheckTextHide = checkBox(QStringLiteral("CheckTextHide"), QStringLiteral("隠テキスト"), FrameTextHide);
+    auto* hide = new QHBoxLayout(FrameTextHide);
+    hide->setContentsMargins(4, 0, 4, 0);
+    hide->addWidget(CheckWaveHide);
+    hide->addWidget(CheckCommentHide);
+    hide->addWidget(CheckTextHide);
+    CommandSendTo = button(QStringLiteral("CommandSendTo"), QStringLiteral("Send"), Frame3);
+    CheckUseCyberView = checkBox(QStringLiteral("CheckUseCyberView"), QStringLiteral("3D表示"), Frame3);
+
+    auto* grid = new QGridLayout(Frame3);
+    grid->setContentsMargins(4, 3, 4, 3);
+    grid->setVerticalSpacing(3);
+    auto* names = new QHBoxLayout;
+    names->addWidget(TextFileName, 1);
+    names->addWidget(TextHeadName);
+    names->addWidget(TextNum);
+    grid->addLayout(names, 0, 0);
+    auto* commands = new QHBoxLayout;
+    commands->setSpacing(3);
+    commands->addWidget(CommandCopy);
+    commands->addWidget(CommandDeleate);
+    commands->addWidget(CommandRecov);
+    commands->addWidget(FrameTextHide);
+    commands->addWidget(CommandSendTo);
+    commands->addWidget(CheckUseCyberView);
+    commands->addStretch(1);
+    grid->addLayout(commands, 1, 0);
+}
+
+void FormMain::buildDisplay()
+{
+    Picture1 = new PictureBox(QStringLiteral("Picture1"), this);
+    Picture2 = new PictureBox(QStringLiteral("Picture2"), Picture1);
+    Picture3 = new PictureBox(QStringLiteral("Picture3"), Picture1);
+    Text1 = new QPlainTextEdit(Picture1);
+    Text1->setObjectName(QStringLiteral("Text1"));
+    Text1->hide();
+    WebBrowser1 = new QWidget(Picture1);
+    WebBrowser1->setObjectName(QStringLiteral("WebBrowser1"));
+    WebBrowser1->hide();
+    MediaPlayer1 = new QWidget(Picture1);
+    MediaPlayer1->setObjectName(QStringLiteral("MediaPlayer1"));
+    MediaPlayer1->hide();
+    MediaPlayer2 = new QWidget(Picture1);
+    MediaPlayer2->setObjectName(QStringLiteral("MediaPlayer2"));
+    MediaPlayer2->hide();
+    LabelComment = new ClickLabel(QStringLiteral("LabelComment"), QString(), Picture1);
+    LabelComment->hide();
+    CommandNoText = button(QStringLiteral("CommandNoText"), QStringLiteral("ﾘｽﾄを閉じる"), Picture1);
+    CommandNoText->hide();
+    HScroll1 = scrollBar(QStringLiteral("HScroll1"), this);
+    HScroll1->hide();
+    VScroll1 = new QScrollBar(Qt::Vertical, this);
+    VScroll1->setObjectName(QStringLiteral("VScroll1"));
+    VScroll1->hide();
+}
+
+void FormMain::connectHandlers()
+{
+    connect(CommandOpenFileList, &QPushButton::clicked, this, &FormMain::CommandOpenFileList_Click);
+    connect(CommandNoText, &QPushButton::clicked, this, &FormMain::CommandNoText_Click);
+    connect(CommandExit, &QPushButton::clicked, this, &FormMain::CommandExit_Click);
+    connect(LabelDo, &ClickLabel::clicked, this, &FormMain::LabelDo_Click);
+    connect(TextCount, &QLineEdit::textChanged, this, &FormMain::TextCount_Change);
+    connect(TextTotal, &QLineEdit::textChanged, this, &FormMain::TextTotal_Change);
+    connect(TextHeadName, &QLineEdit::textChanged, this, &FormMain::TextHeadName_Change);
+    connect(CheckOriginalSize, &QCheckBox::clicked, this, &FormMain::Form_Resize);
+}
+
+} // namespace lumen

@@ -1,0 +1,150 @@
+// FormMain: the main window. It owns the display area and the page state,
+// and every other window reads it and drives it. Its three frames hold the
+// commands: Frame1 on the right (paging, opening a list), Frame2 on top
+// (picture work and modes), Frame3 at the bottom (the page's file).
+#pragma once
+
+#include "platform/FormBase.h"
+
+#include <functional>
+
+class QCheckBox;
+class QGroupBox;
+class QLineEdit;
+class QPushButton;
+class QScrollBar;
+class QPlainTextEdit;
+
+namespace lumen {
+
+class ClickLabel;
+class FormRegistry;
+class PictureBox;
+class VeroProcedure_Basical;
+struct ProgramState;
+
+// What the main window needs from the application around it.
+struct FormMainLinks {
+    std::function<void()> startWithFile;       // Form_Load, step 9
+    std::function<void()> unloadAllForms;      // closing, in the fixed order
+    std::function<void()> endProgram;          // End
+    std::function<void()> stopAutoPage;        // FormOption's CommandStop
+    std::function<void(int)> navigatorPage;    // the navigator's page bar
+};
+
+class FormMain : public FormBase {
+    Q_OBJECT
+public:
+    FormMain(VeroProcedure_Basical& basics, FormRegistry& forms, QWidget* parent = nullptr);
+
+    FormMainLinks links;
+
+    // ---- Frame1: paging and lists
+    QGroupBox* Frame1;
+    QPushButton* CommandOpenFileList;
+    QPushButton* CommandLeft;
+    QPushButton* CommandRight;
+    QScrollBar* HScrollPicNom;
+    ClickLabel* LabelSmall;
+    ClickLabel* LabelMax;
+    QLineEdit* TextCount;
+    QLineEdit* TextTotal;
+    ClickLabel* LabelDo;
+    QCheckBox* CheckQuiCkWork;
+    QPushButton* CommandHatenaSettei;
+    QPushButton* CommandIELeft;
+    QPushButton* CommandIERight;
+    QPushButton* CommandExit;
+
+    // ---- Frame2: picture work and modes
+    QGroupBox* Frame2;
+    QPushButton* CommandModPic;
+    QPushButton* CommandSaveImage;
+    QPushButton* CommandScrollSizeAllowValue;
+    QCheckBox* CheckOriginalSize;
+    QPushButton* CommandFull;
+    QPushButton* CommandOption;
+    QPushButton* CommandEdit;
+    QPushButton* CommandWriteCommentOnPic;
+    QPushButton* CommandMakeHTML;
+
+    // ---- Frame3: the page's file
+    QGroupBox* Frame3;
+    QLineEdit* TextFileName;
+    QLineEdit* TextHeadName;
+    QLineEdit* TextNum;
+    QPushButton* CommandCopy;
+    QPushButton* CommandDeleate;
+    QPushButton* CommandRecov;
+    QGroupBox* FrameTextHide;
+    QCheckBox* CheckWaveHide;
+    QCheckBox* CheckCommentHide;
+    QCheckBox* CheckTextHide;
+    QPushButton* CommandSendTo;
+    QCheckBox* CheckUseCyberView;
+
+    // ---- The display area and what lies in it
+    PictureBox* Picture1;
+    PictureBox* Picture2;
+    PictureBox* Picture3;
+    QPlainTextEdit* Text1;
+    QWidget* WebBrowser1;
+    QWidget* MediaPlayer1;
+    QWidget* MediaPlayer2;
+    ClickLabel* LabelComment;
+    QPushButton* CommandNoText;
+    QScrollBar* HScroll1;
+    QScrollBar* VScroll1;
+
+    // ---- Page state
+    qint32 FileCount = 0;
+    bool ScrollGuard = false;
+    bool FullOnNext = false;
+    bool NormalOnNext = false;
+    bool HScrollNeeded = false;
+    bool VScrollNeeded = false;
+
+    // ---- Procedures
+    void Form_Resize();
+    void FormResizeNorMal();
+    void FormResizeFill();
+    void OpenFileList(const QString& fileName);
+    void CleareDisp(QString kind);
+    void TakeMainAction();
+    void PrepareShow();
+    void RelayoutCurrentPage();
+    void CheckAuto_With();
+
+    // ---- Handlers
+    void CommandOpenFileList_Click();
+    void CommandNoText_Click();
+    void CommandExit_Click();
+    void LabelDo_Click();
+    void TextCount_Change();
+    void TextTotal_Change();
+    void TextHeadName_Change();
+
+protected:
+    void Form_Load() override;
+    void Form_Unload(bool& cancel) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void buildFrame1();
+    void buildFrame2();
+    void buildFrame3();
+    void buildDisplay();
+    void connectHandlers();
+    void applyFonts();
+    bool isMaximized() const;
+    void saveRecord();
+    bool makeFoldersIfEmpty();
+
+    VeroProcedure_Basical& basics_;
+    ProgramState& state_;
+    FormRegistry& forms_;
+    double noTextWait_ = 1000; // the list view's wait; CommandNoText sets it to 0
+    bool inResize_ = false;
+};
+
+} // namespace lumen
