@@ -65,16 +65,18 @@ void FakeDialogs::showMessage(int left, int top, const QString& text)
 }
 
 std::optional<QString> FakeDialogs::openFileName(const QString&, const QString& startPath,
-                                                 const QString&)
+                                                 const QString& filter)
 {
     dialogStarts.append(startPath);
+    dialogFilters.append(filter);
     return fileNames.isEmpty() ? std::nullopt : fileNames.dequeue();
 }
 
 std::optional<QString> FakeDialogs::saveFileName(const QString&, const QString& startPath,
-                                                 const QString&)
+                                                 const QString& filter)
 {
     dialogStarts.append(startPath);
+    dialogFilters.append(filter);
     return fileNames.isEmpty() ? std::nullopt : fileNames.dequeue();
 }
 

@@ -62,7 +62,8 @@ public:
                                         const QString& filter) override;
     QString browseForFolder(const QString& title, const QString& startPath) override;
 
-    QStringList dialogStarts; // start paths the file and folder dialogs were given
+    QStringList dialogStarts;  // start paths the file and folder dialogs were given
+    QStringList dialogFilters; // filters the file dialogs were given
 };
 
 class FakeLauncher : public Launcher {
