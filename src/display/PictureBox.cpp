@@ -38,7 +38,10 @@ void PictureBox::paintPicture(const QImage& source, const QRect& target)
     setPicture(canvas);
 }
 
-void PictureBox::setBackColor(qint32 bgr) { lumen::setBackColor(this, bgr); }
+void PictureBox::setBackColor(qint32 bgr)
+{
+    lumen::setBackColor(this, bgr);
+}
 
 void PictureBox::paintEvent(QPaintEvent*)
 {

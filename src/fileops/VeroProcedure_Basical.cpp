@@ -365,7 +365,10 @@ QString VeroProcedure_Basical::ReadTextOfFile(const QString& path)
     return read.text;
 }
 
-int VeroProcedure_Basical::CleanListFile(const QString& path) { return CleanListFile(path, nullptr); }
+int VeroProcedure_Basical::CleanListFile(const QString& path)
+{
+    return CleanListFile(path, nullptr);
+}
 
 int VeroProcedure_Basical::CleanListFile(const QString& path, QString* cleanedText)
 {

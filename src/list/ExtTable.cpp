@@ -47,9 +47,11 @@ const QList<KindRow>& kindTable()
 QStringList defaultExtTypeLines()
 {
     return {
-        QStringLiteral("'ここでは、ファイル選択の時に頻繁に使う、表示させたい拡張子を指定できます。"),
+        QStringLiteral(
+            "'ここでは、ファイル選択の時に頻繁に使う、表示させたい拡張子を指定できます。"),
         QStringLiteral("'頭から17行までの所で定義してください。（17種類指定できます。）"),
-        QStringLiteral("'行の中には、ｴｸｽﾃﾝｼｮﾝの名前と「 =　」、それとこれをテキストとして使う場合は"),
+        QStringLiteral(
+            "'行の中には、ｴｸｽﾃﾝｼｮﾝの名前と「 =　」、それとこれをテキストとして使う場合は"),
         QStringLiteral("'TEXTと追加してください。別の字ではテキストとは判断しません。"),
         QString(),
         QStringLiteral("BMP ="),
@@ -78,7 +80,8 @@ void PutExtTypeToArray(VeroProcedure_Basical& basics)
     if (basics.FileExists(file))
         return;
     writeTextFileSafely(basics.services().fs.toNative(file),
-                        defaultExtTypeLines().join(QStringLiteral("\r\n")) + QStringLiteral("\r\n"));
+                        defaultExtTypeLines().join(QStringLiteral("\r\n")) +
+                            QStringLiteral("\r\n"));
 }
 
 void readExtTypeSlots(StringGrid& slots, const QString& extTypeText)

@@ -17,10 +17,8 @@ struct ItemKind {
 };
 
 const ItemKind kItems[] = {
-    {kWith, "ENDWITH"},
-    {kDelay, "ENDDELAY"},
-    {kComment, "ENDCOMMENT"},
-    {kFileComment, "ENDFILECOMMENT"},
+    {kWith, "ENDWITH"},       {kDelay, "ENDDELAY"},
+    {kComment, "ENDCOMMENT"}, {kFileComment, "ENDFILECOMMENT"},
     {kOption, "ENDOPTION"},
 };
 

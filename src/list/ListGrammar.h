@@ -17,8 +17,8 @@ struct ListRow {
 };
 
 enum class LineKind {
-    Command,  // a page
-    Comment,  // first non-blank character is "'": not counted
+    Command,    // a page
+    Comment,    // first non-blank character is "'": not counted
     TooIndented // more than 20 leading blanks: counted, but left empty
 };
 

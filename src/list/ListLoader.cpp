@@ -42,9 +42,10 @@ int prepareWorkingCopy(VeroProcedure_Basical& basics, const QString& fileName, Q
         fs.copyFile(fileName, copy);
     const int count = basics.CleanListFile(copy, text);
     if (count > kMostListRows) {
-        basics.services().ui.msgBox(QStringLiteral("選択したファイル数は ") + QString::number(count) +
-                                    QStringLiteral("個です。エディターでファイル数を32763個未満にして"
-                                                   "ください。"));
+        basics.services().ui.msgBox(
+            QStringLiteral("選択したファイル数は ") + QString::number(count) +
+            QStringLiteral("個です。エディターでファイル数を32763個未満にして"
+                           "ください。"));
         return -1;
     }
     return count;

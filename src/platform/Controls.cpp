@@ -31,8 +31,11 @@ void setBackColor(QWidget* widget, qint32 bgr)
     QPalette palette = widget->palette();
     const QColor color = colorFromBgr(bgr);
     palette.setColor(QPalette::Window, color);
-    palette.setColor(QPalette::Button, color);
-    palette.setColor(QPalette::Base, color);
+    if (!widget->isWindow()) {
+        // A window's ground doesn't pass on to its buttons and text boxes.
+        palette.setColor(QPalette::Button, color);
+        palette.setColor(QPalette::Base, color);
+    }
     widget->setPalette(palette);
     widget->setAutoFillBackground(true);
 }

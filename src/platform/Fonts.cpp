@@ -9,8 +9,8 @@ void installFontSubstitutes()
 {
     const QStringList gothic = {QStringLiteral("IPAPGothic"), QStringLiteral("IPAGothic"),
                                 QStringLiteral("Noto Sans CJK JP"), QStringLiteral("VL PGothic")};
-    for (const char* name : {"MS UI Gothic", "ＭＳ Ｐゴシック", "MS PGothic", "ＭＳ ゴシック",
-                             "MS Gothic"})
+    for (const char* name :
+         {"MS UI Gothic", "ＭＳ Ｐゴシック", "MS PGothic", "ＭＳ ゴシック", "MS Gothic"})
         QFont::insertSubstitutions(QString::fromUtf8(name), gothic);
 }
 

@@ -4,7 +4,10 @@
 
 namespace lumen {
 
-void FormRegistry::add(const QString& name, Factory make) { factories_.insert(name, std::move(make)); }
+void FormRegistry::add(const QString& name, Factory make)
+{
+    factories_.insert(name, std::move(make));
+}
 
 FormBase* FormRegistry::form(const QString& name)
 {
@@ -19,7 +22,10 @@ FormBase* FormRegistry::form(const QString& name)
     return made;
 }
 
-FormBase* FormRegistry::existing(const QString& name) const { return made_.value(name).data(); }
+FormBase* FormRegistry::existing(const QString& name) const
+{
+    return made_.value(name).data();
+}
 
 bool FormRegistry::unload(const QString& name)
 {

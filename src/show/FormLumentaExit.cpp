@@ -54,9 +54,9 @@ void FormLumentaExit::CommandEnd_Click()
     record.MainWindowTop = basic::ClampInt16(twTop(&main_));
     record.MainWindowWidth = basic::ClampInt16(twWidth(&main_));
     record.MainWindowHeight = basic::ClampInt16(twHeight(&main_));
-    writeDirecData(basics_.services().fs.toNative(state.ProgramRunDir +
-                                                  QStringLiteral("\\DirecData.ran")),
-                   record);
+    writeDirecData(
+        basics_.services().fs.toNative(state.ProgramRunDir + QStringLiteral("\\DirecData.ran")),
+        record);
     unload();
     if (unloadAllForms)
         unloadAllForms();

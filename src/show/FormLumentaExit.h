@@ -18,7 +18,7 @@ class FormLumentaExit : public FormBase {
 public:
     FormLumentaExit(VeroProcedure_Basical& basics, FormMain& main, QWidget* parent = nullptr);
 
-    std::function<void()> normalSize;     // FORMNORMALSIZE of the main window
+    std::function<void()> normalSize; // FORMNORMALSIZE of the main window
     std::function<void()> unloadAllForms;
     std::function<void()> endProgram;
 

@@ -79,8 +79,8 @@ void FormMain::buildFrame1()
 {
     Frame1 = frame(QStringLiteral("Frame1"), this);
     Frame1->setFixedWidth(106);
-    CommandOpenFileList = button(QStringLiteral("CommandOpenFileList"),
-                                 QStringLiteral("ﾘｽﾄを開く"), Frame1);
+    CommandOpenFileList =
+        button(QStringLiteral("CommandOpenFileList"), QStringLiteral("ﾘｽﾄを開く"), Frame1);
     CommandOpenFileList->setAcceptDrops(true);
     CheckQuiCkWork = checkBox(QStringLiteral("CheckQuiCkWork"), QStringLiteral("ｸｲｯｸ"), Frame1);
     LabelDo = new ClickLabel(QStringLiteral("LabelDo"), QStringLiteral("表示"), Frame1);
@@ -99,8 +99,8 @@ void FormMain::buildFrame1()
     TextCount = textBox(QStringLiteral("TextCount"), QString(), Frame1);
     TextTotal = textBox(QStringLiteral("TextTotal"), QString(), Frame1);
     TextTotal->setReadOnly(true);
-    CommandHatenaSettei = button(QStringLiteral("CommandHatenaSettei"),
-                                 QStringLiteral("ﾄﾞﾗｲﾌﾞ設定"), Frame1);
+    CommandHatenaSettei =
+        button(QStringLiteral("CommandHatenaSettei"), QStringLiteral("ﾄﾞﾗｲﾌﾞ設定"), Frame1);
     CommandIELeft = button(QStringLiteral("CommandIELeft"), QStringLiteral("戻"), Frame1);
     CommandIERight = button(QStringLiteral("CommandIERight"), QStringLiteral("進"), Frame1);
     CommandExit = button(QStringLiteral("CommandExit"), QStringLiteral("終了"), Frame1);
@@ -140,10 +140,12 @@ void FormMain::buildFrame2()
 {
     Frame2 = frame(QStringLiteral("Frame2"), this);
     CommandModPic = button(QStringLiteral("CommandModPic"), QStringLiteral("線の作図"), Frame2);
-    CommandSaveImage = button(QStringLiteral("CommandSaveImage"), QStringLiteral("画像保存"), Frame2);
-    CommandScrollSizeAllowValue = button(QStringLiteral("CommandScrollSizeAllowValue"),
-                                         QStringLiteral("許容値"), Frame2);
-    CheckOriginalSize = checkBox(QStringLiteral("CheckOriginalSize"), QStringLiteral("原寸"), Frame2);
+    CommandSaveImage =
+        button(QStringLiteral("CommandSaveImage"), QStringLiteral("画像保存"), Frame2);
+    CommandScrollSizeAllowValue =
+        button(QStringLiteral("CommandScrollSizeAllowValue"), QStringLiteral("許容値"), Frame2);
+    CheckOriginalSize =
+        checkBox(QStringLiteral("CheckOriginalSize"), QStringLiteral("原寸"), Frame2);
     CommandFull = button(QStringLiteral("CommandFull"), QStringLiteral("FILL表示"), Frame2);
     CommandOption = button(QStringLiteral("CommandOption"), QStringLiteral("自動ﾍﾟｰｼﾞ"), Frame2);
     CommandEdit = button(QStringLiteral("CommandEdit"), QStringLiteral("ﾘｽﾄ作成"), Frame2);
@@ -155,8 +157,12 @@ void FormMain::buildFrame2()
     row->setSpacing(3);
     for (QWidget* w : std::initializer_list<QWidget*>{
              CommandModPic, CommandSaveImage, CommandScrollSizeAllowValue, CheckOriginalSize,
-             CommandFull, CommandOption, CommandEdit, CommandWriteCommentOnPic, CommandMakeHTML})
+             CommandFull, CommandOption, CommandEdit, CommandWriteCommentOnPic, CommandMakeHTML}) {
+        // Nine commands share a fixed width: each as wide as its caption.
+        if (auto* b = qobject_cast<QPushButton*>(w))
+            b->setMinimumWidth(b->fontMetrics().horizontalAdvance(b->text()) + 12);
         row->addWidget(w);
+    }
 }
 
 void FormMain::buildFrame3()
@@ -171,17 +177,20 @@ void FormMain::buildFrame3()
     CommandDeleate = button(QStringLiteral("CommandDeleate"), QStringLiteral("削除"), Frame3);
     CommandRecov = button(QStringLiteral("CommandRecov"), QStringLiteral("復元"), Frame3);
     FrameTextHide = frame(QStringLiteral("FrameTextHide"), Frame3);
-    CheckWaveHide = checkBox(QStringLiteral("CheckWaveHide"), QStringLiteral("隠サウンド"), FrameTextHide);
-    CheckCommentHide = checkBox(QStringLiteral("CheckCommentHide"), QStringLiteral("隠コメント"),
-                                FrameTextHide);
-    CheckTextHide = checkBox(QStringLiteral("CheckTextHide"), QStringLiteral("隠テキスト"), FrameTextHide);
+    CheckWaveHide =
+        checkBox(QStringLiteral("CheckWaveHide"), QStringLiteral("隠サウンド"), FrameTextHide);
+    CheckCommentHide =
+        checkBox(QStringLiteral("CheckCommentHide"), QStringLiteral("隠コメント"), FrameTextHide);
+    CheckTextHide =
+        checkBox(QStringLiteral("CheckTextHide"), QStringLiteral("隠テキスト"), FrameTextHide);
     auto* hide = new QHBoxLayout(FrameTextHide);
     hide->setContentsMargins(4, 0, 4, 0);
     hide->addWidget(CheckWaveHide);
     hide->addWidget(CheckCommentHide);
     hide->addWidget(CheckTextHide);
     CommandSendTo = button(QStringLiteral("CommandSendTo"), QStringLiteral("Send"), Frame3);
-    CheckUseCyberView = checkBox(QStringLiteral("CheckUseCyberView"), QStringLiteral("3D表示"), Frame3);
+    CheckUseCyberView =
+        checkBox(QStringLiteral("CheckUseCyberView"), QStringLiteral("3D表示"), Frame3);
 
     auto* grid = new QGridLayout(Frame3);
     grid->setContentsMargins(4, 3, 4, 3);
@@ -222,7 +231,8 @@ void FormMain::buildDisplay()
     MediaPlayer2->hide();
     LabelComment = new ClickLabel(QStringLiteral("LabelComment"), QString(), Picture1);
     LabelComment->hide();
-    CommandNoText = button(QStringLiteral("CommandNoText"), QStringLiteral("ﾘｽﾄを閉じる"), Picture1);
+    CommandNoText =
+        button(QStringLiteral("CommandNoText"), QStringLiteral("ﾘｽﾄを閉じる"), Picture1);
     CommandNoText->hide();
     HScroll1 = scrollBar(QStringLiteral("HScroll1"), this);
     HScroll1->hide();

@@ -25,11 +25,11 @@ struct ProgramState;
 
 // What the main window needs from the application around it.
 struct FormMainLinks {
-    std::function<void()> startWithFile;       // Form_Load, step 9
-    std::function<void()> unloadAllForms;      // closing, in the fixed order
-    std::function<void()> endProgram;          // End
-    std::function<void()> stopAutoPage;        // FormOption's CommandStop
-    std::function<void(int)> navigatorPage;    // the navigator's page bar
+    std::function<void()> startWithFile;    // Form_Load, step 9
+    std::function<void()> unloadAllForms;   // closing, in the fixed order
+    std::function<void()> endProgram;       // End
+    std::function<void()> stopAutoPage;     // FormOption's CommandStop
+    std::function<void(int)> navigatorPage; // the navigator's page bar
 };
 
 class FormMain : public FormBase {

@@ -28,7 +28,10 @@ constexpr double kFrame2Height = 480;
 constexpr double kFrame3Height = 1005;
 
 // Visible as the window sees it, whether or not the window itself is shown.
-bool shown(const QWidget* control, const QWidget* window) { return control->isVisibleTo(window); }
+bool shown(const QWidget* control, const QWidget* window)
+{
+    return control->isVisibleTo(window);
+}
 
 } // namespace
 
@@ -39,7 +42,10 @@ void FormMain::resizeEvent(QResizeEvent* event)
         Form_Resize();
 }
 
-bool FormMain::isMaximized() const { return windowState() & Qt::WindowMaximized; }
+bool FormMain::isMaximized() const
+{
+    return windowState() & Qt::WindowMaximized;
+}
 
 void FormMain::Form_Resize()
 {

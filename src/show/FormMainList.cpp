@@ -3,11 +3,11 @@
 #include "show/FormMain.h"
 
 #include "display/PictureBox.h"
-#include "platform/ClickLabel.h"
 #include "fileops/BasicHost.h"
 #include "fileops/VeroProcedure_Basical.h"
 #include "list/ListLoader.h"
 #include "platform/Basic.h"
+#include "platform/ClickLabel.h"
 #include "platform/Colors.h"
 #include "platform/Controls.h"
 #include "platform/FileSystem.h"
@@ -29,7 +29,10 @@ using namespace basic;
 constexpr int kListViewSeconds = 31;
 constexpr double kOutOfSight = -30000;
 
-bool shownOwn(const QWidget* control) { return !control->isHidden(); }
+bool shownOwn(const QWidget* control)
+{
+    return !control->isHidden();
+}
 
 } // namespace
 
@@ -64,8 +67,9 @@ void FormMain::OpenFileList(const QString& fileName)
     Picture2->show();
     if (!quick) {
         twMove(Text1, 0, 0, twWidth(Picture1), twHeight(Picture1));
-        Text1->setPlainText(QString(fill.displayText).replace(QStringLiteral("\r\n"),
-                                                              QStringLiteral("\n")).trimmed());
+        Text1->setPlainText(QString(fill.displayText)
+                                .replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
+                                .trimmed());
         Text1->show();
     }
 
@@ -193,6 +197,9 @@ void FormMain::TextTotal_Change()
     HScrollPicNom->setMaximum(int(Val(TextTotal->text())));
 }
 
-void FormMain::TextHeadName_Change() { TextNum->setText(QStringLiteral("001")); }
+void FormMain::TextHeadName_Change()
+{
+    TextNum->setText(QStringLiteral("001"));
+}
 
 } // namespace lumen

@@ -26,9 +26,15 @@ namespace {
 
 using namespace basic;
 
-int checkValue(qint16 recordBoolean) { return recordBoolean == kTrue ? 1 : 0; }
+int checkValue(qint16 recordBoolean)
+{
+    return recordBoolean == kTrue ? 1 : 0;
+}
 
-qint16 recordBoolean(const QCheckBox* box) { return box->isChecked() ? kTrue : kFalse; }
+qint16 recordBoolean(const QCheckBox* box)
+{
+    return box->isChecked() ? kTrue : kFalse;
+}
 
 } // namespace
 
@@ -52,6 +58,8 @@ void FormMain::Form_Load()
     CommandNoText->hide();
     state_.AutoPageOn = false;
     setBackColor(this, kColorGrey);
+    if (const QString ground = FixedText(record.PictBackColor); !ground.isEmpty())
+        Picture1->setBackColor(bgrFromText(ground));
 
     PutExtTypeToArray(basics_);
     basics_.WaitMilliseconds(100);
@@ -105,9 +113,9 @@ void FormMain::applyFonts()
 
 void FormMain::saveRecord()
 {
-    writeDirecData(basics_.services().fs.toNative(state_.ProgramRunDir +
-                                                  QStringLiteral("\\DirecData.ran")),
-                   state_.DirecData);
+    writeDirecData(
+        basics_.services().fs.toNative(state_.ProgramRunDir + QStringLiteral("\\DirecData.ran")),
+        state_.DirecData);
 }
 
 void FormMain::Form_Unload(bool& cancel)
@@ -129,6 +137,9 @@ void FormMain::Form_Unload(bool& cancel)
         links.endProgram();
 }
 
-void FormMain::CommandExit_Click() { unload(); }
+void FormMain::CommandExit_Click()
+{
+    unload();
+}
 
 } // namespace lumen

@@ -41,7 +41,7 @@ struct ProgramState {
     QString ForcedDriveFrom; // drive mark of the list: "*:", "?:" or "%:"
     QString ForcedDriveTo;   // the drive that stands for it
     QString SelectedFile;
-    int DirectryLock = 0;      // CheckDirectryLock of the file selection: 1 locks AccessLockDir
+    int DirectryLock = 0; // CheckDirectryLock of the file selection: 1 locks AccessLockDir
     qint32 PictureSizeAllowVal = 20;
     QString AppDrive; // first two characters of the program's folder
     QString WindowsFolder;

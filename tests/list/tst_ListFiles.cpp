@@ -103,9 +103,10 @@ void TestListFiles::defaultExtTypeBytes()
     PutExtTypeToArray(f.basics);
     const QByteArray bytes = f.home.readFile(QString(kSettings) + "ExtType.dat");
     QVERIFY(bytes.startsWith("'\x82\xB1\x82\xB1\x82\xC5\x82\xCD"));
-    QVERIFY(bytes.endsWith("\r\n\r\nBMP =\r\nJPG =\r\nICO =\r\nXV3 =\r\nCO =\r\nWRL =\r\nNFF =\r\n"
-                           "WAV =\r\nMID =\r\nMOV =\r\nMPG =\r\nAVI =\r\nTXT = TEXT\r\nDAT = TEXT\r\n"
-                           "EXE =\r\nHLP = \r\nLST = \r\n"));
+    QVERIFY(
+        bytes.endsWith("\r\n\r\nBMP =\r\nJPG =\r\nICO =\r\nXV3 =\r\nCO =\r\nWRL =\r\nNFF =\r\n"
+                       "WAV =\r\nMID =\r\nMOV =\r\nMPG =\r\nAVI =\r\nTXT = TEXT\r\nDAT = TEXT\r\n"
+                       "EXE =\r\nHLP = \r\nLST = \r\n"));
     f.home.writeFile(QString(kSettings) + "ExtType.dat", "BMP =\r\n");
     PutExtTypeToArray(f.basics); // an existing file stays
     QCOMPARE(f.home.readFile(QString(kSettings) + "ExtType.dat"), QByteArray("BMP =\r\n"));
@@ -114,17 +115,17 @@ void TestListFiles::defaultExtTypeBytes()
 void TestListFiles::extSlots_data()
 {
     QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("names");   // slots 0 to 3
+    QTest::addColumn<QStringList>("names"); // slots 0 to 3
     QTest::addColumn<QStringList>("markers");
-    QTest::newRow("names and markers") << "bmp =\r\n' note\r\n\r\ntxt = text\r\nPNG= Other\r\nx"
-                                       << QStringList{"BMP", "TXT", "PNG", "?"}
-                                       << QStringList{"", "TEXT", "OTHER", ""};
-    QTest::newRow("short file keeps the rest") << "JPG = TEXT"
-                                               << QStringList{"JPG", "OLD1", "OLD2", "OLD3"}
-                                               << QStringList{"TEXT", "M1", "M2", "M3"};
-    QTest::newRow("more than 50 skipped lines") << QString("'\r\n").repeated(51) + "AVI ="
-                                                << QStringList{"OLD0", "OLD1", "OLD2", "OLD3"}
-                                                << QStringList{"M0", "M1", "M2", "M3"};
+    QTest::newRow("names and markers")
+        << "bmp =\r\n' note\r\n\r\ntxt = text\r\nPNG= Other\r\nx"
+        << QStringList{"BMP", "TXT", "PNG", "?"} << QStringList{"", "TEXT", "OTHER", ""};
+    QTest::newRow("short file keeps the rest")
+        << "JPG = TEXT" << QStringList{"JPG", "OLD1", "OLD2", "OLD3"}
+        << QStringList{"TEXT", "M1", "M2", "M3"};
+    QTest::newRow("more than 50 skipped lines")
+        << QString("'\r\n").repeated(51) + "AVI =" << QStringList{"OLD0", "OLD1", "OLD2", "OLD3"}
+        << QStringList{"M0", "M1", "M2", "M3"};
 }
 
 void TestListFiles::extSlots()
@@ -150,26 +151,40 @@ void TestListFiles::checkExtHat_data()
     QTest::addColumn<QString>("slotLine");
     QTest::addColumn<bool>("textAsAvi");
     QTest::addColumn<QString>("kind");
-    QTest::newRow("picture") << "C:\\a.b.jpg" << "" << false << "PIC";
-    QTest::newRow("MOV, first row wins") << "C:\\m.mov" << "" << false << "IE";
-    QTest::newRow("gif") << "C:\\a.GIF" << "" << false << "IE";
-    QTest::newRow("text") << "C:\\a.txt" << "" << false << "TXT";
-    QTest::newRow("text as animation") << "C:\\a.dat" << "" << true << "AVI";
-    QTest::newRow("midi") << "C:\\a.mid" << "" << false << "MIDI";
-    QTest::newRow("cd") << "D:\\Track01.cda" << "" << false << "CDM";
-    QTest::newRow("other") << "C:\\a.xyz" << "" << false << "NON";
-    QTest::newRow("slot marks PNG as text") << "C:\\a.png" << "PNG = TEXT" << false << "TXT";
-    QTest::newRow("other marker has no effect") << "C:\\a.png" << "PNG = PIC" << false << "PIC";
-    QTest::newRow("no colon") << "a.jpg" << "" << false << "";
-    QTest::newRow("no dot") << "C:\\readme" << "" << false << "";
-    QTest::newRow("extension with blank") << "C:\\a.jpg " << "" << false << "PIC";
+    QTest::newRow("picture") << "C:\\a.b.jpg"
+                             << "" << false << "PIC";
+    QTest::newRow("MOV, first row wins") << "C:\\m.mov"
+                                         << "" << false << "IE";
+    QTest::newRow("gif") << "C:\\a.GIF"
+                         << "" << false << "IE";
+    QTest::newRow("text") << "C:\\a.txt"
+                          << "" << false << "TXT";
+    QTest::newRow("text as animation") << "C:\\a.dat"
+                                       << "" << true << "AVI";
+    QTest::newRow("midi") << "C:\\a.mid"
+                          << "" << false << "MIDI";
+    QTest::newRow("cd") << "D:\\Track01.cda"
+                        << "" << false << "CDM";
+    QTest::newRow("other") << "C:\\a.xyz"
+                           << "" << false << "NON";
+    QTest::newRow("slot marks PNG as text") << "C:\\a.png"
+                                            << "PNG = TEXT" << false << "TXT";
+    QTest::newRow("other marker has no effect") << "C:\\a.png"
+                                                << "PNG = PIC" << false << "PIC";
+    QTest::newRow("no colon") << "a.jpg"
+                              << "" << false << "";
+    QTest::newRow("no dot") << "C:\\readme"
+                            << "" << false << "";
+    QTest::newRow("extension with blank") << "C:\\a.jpg "
+                                          << "" << false << "PIC";
 }
 
 void TestListFiles::checkExtHat()
 {
     StringGrid slots(kExtSlots, 2);
     readExtTypeSlots(slots, FETCH(QString, slotLine));
-    QCOMPARE(CheckExtHat(FETCH(QString, name), slots, FETCH(bool, textAsAvi)), FETCH(QString, kind));
+    QCOMPARE(CheckExtHat(FETCH(QString, name), slots, FETCH(bool, textAsAvi)),
+             FETCH(QString, kind));
 }
 
 void TestListFiles::load_data()
@@ -182,8 +197,7 @@ void TestListFiles::load_data()
     QTest::newRow("empty file") << QByteArray() << 0 << QStringList{"", "", "", "", ""}
                                 << QStringList() << "\r";
     QTest::newRow("comment lines only") << QByteArray("' one\r\n' two\r\n") << 0
-                                        << QStringList{"", "", "", "", ""} << QStringList()
-                                        << "\r";
+                                        << QStringList{"", "", "", "", ""} << QStringList() << "\r";
     QTest::newRow("English list")
         << QByteArray("' show\r\n\r\nC:\\a.jpg @DELAY=2 ENDDELAY\r\nC:\\b.jpg @WITH=C:\\b.wav\r\n")
         << 2 << QStringList{"C:\\a.jpg", "", "2", "", ""}
