@@ -377,6 +377,39 @@ QStringList FileSystem::folders(const QString& programFolder) const
     return sortedForListing(names);
 }
 
+FileSystem::FolderListing FileSystem::listFolder(const QString& programFolder,
+                                                 const QStringList& patterns) const
+{
+    FolderListing listing;
+    const QString folder = toNative(programFolder);
+    if (folder.isEmpty())
+        return listing;
+    QList<QRegularExpression> matches;
+    for (const QString& pattern : patterns)
+        matches.append(wildcardPattern(pattern.isEmpty() ? QStringLiteral("*") : pattern));
+    const auto matchesAny = [&matches](const QString& name) {
+        return std::any_of(matches.cbegin(), matches.cend(),
+                           [&name](const auto& match) { return match.match(name).hasMatch(); });
+    };
+    // Without QDir::Hidden the dot names stay out; without QDir::System
+    // links whose target is gone do too.
+    const QFileInfoList entries =
+        QDir(folder).entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+    for (const QFileInfo& entry : entries) {
+        const QString name = entry.fileName();
+        if (!fitsProgramForm(name))
+            continue;
+        if (entry.isDir())
+            (entry.isSymLink() ? listing.linkedFolders : listing.folders).append(name);
+        else if (matchesAny(name))
+            listing.files.append(name);
+    }
+    listing.files = sortedForListing(listing.files);
+    listing.folders = sortedForListing(listing.folders);
+    listing.linkedFolders = sortedForListing(listing.linkedFolders);
+    return listing;
+}
+
 bool FileSystem::makeFolder(const QString& programPath)
 {
     const QString native = toNative(programPath);

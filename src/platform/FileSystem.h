@@ -66,6 +66,17 @@ public:
                       const QString& pattern = QStringLiteral("*.*")) const;
     QStringList folders(const QString& programFolder) const;
 
+    // One reading of a folder for walks through trees: the normal files that
+    // match any of the patterns (matched as `files` matches), and the
+    // folders, with the folders that are symbolic links kept apart; each
+    // list in the order of `files`. Empty lists for a missing folder.
+    struct FolderListing {
+        QStringList files;
+        QStringList folders;       // real folders
+        QStringList linkedFolders; // symbolic links to folders
+    };
+    FolderListing listFolder(const QString& programFolder, const QStringList& patterns) const;
+
     bool makeFolder(const QString& programPath);           // one level; false if it exists
     bool copyFile(const QString& from, const QString& to); // replaces "to"; keeps the mode bits
     // Renames or moves; fails if "to" exists, unless only the case of the

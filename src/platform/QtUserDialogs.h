@@ -4,6 +4,7 @@
 #include "platform/UserDialogs.h"
 
 #include <QPointer>
+#include <QWidget>
 
 class QWidget;
 

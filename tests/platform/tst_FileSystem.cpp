@@ -63,6 +63,8 @@ private Q_SLOTS:
     void queries();
     void listings_data();
     void listings();
+    void listFolder_data();
+    void listFolder();
     void namesThatAreNotUtf8();
     void attributes_data();
     void attributes();
@@ -342,6 +344,39 @@ void TestFileSystem::listings()
         QCOMPARE(fs().files(folder, pattern), names);
 }
 
+void TestFileSystem::listFolder_data()
+{
+    QTest::addColumn<QStringList>("patterns");
+    QTest::addColumn<QStringList>("files");
+
+    QTest::newRow("all files") << QStringList{"*.*"}
+                               << QStringList{"a.jpg", "b.BMP", "C.jpg", "README", "to-file.jpg"};
+    QTest::newRow("two patterns, each name once")
+        << QStringList{"*.JPG", "a*", "readme"}
+        << QStringList{"a.jpg", "C.jpg", "README", "to-file.jpg"};
+    QTest::newRow("no pattern matches") << QStringList{"*.png"} << QStringList{};
+}
+
+void TestFileSystem::listFolder()
+{
+    QFETCH(QStringList, patterns);
+    QFETCH(QStringList, files);
+    makeEntries({"top/C.jpg", "top/a.jpg", "top/b.BMP", "top/README", "top/.h.jpg", "top/x\\y.jpg",
+                 "top/Sub/", "top/alpha/", "top/.git/", "elsewhere/", "elsewhere/f.jpg"});
+    link("~/elsewhere", "top/zlinked");
+    link("~/elsewhere", "top/Blinked");
+    link("~/elsewhere/f.jpg", "top/to-file.jpg");
+    link("~/gone", "top/dangling.jpg");
+
+    const FileSystem::FolderListing listing = fs().listFolder("C:\\top", patterns);
+    QCOMPARE(listing.files, files);
+    QCOMPARE(listing.folders, (QStringList{"alpha", "Sub"}));
+    QCOMPARE(listing.linkedFolders, (QStringList{"Blinked", "zlinked"}));
+
+    const FileSystem::FolderListing missing = fs().listFolder("C:\\none", patterns);
+    QVERIFY(missing.files.isEmpty() && missing.folders.isEmpty());
+}
+
 void TestFileSystem::namesThatAreNotUtf8()
 {
     // Names written by a CP932 system: 0x83 0x74 ("フ") isn't UTF-8.
@@ -356,6 +391,9 @@ void TestFileSystem::namesThatAreNotUtf8()
 
     QCOMPARE(fs().files(QStringLiteral("C:\\old")), QStringList{QStringLiteral("ok.txt")});
     QCOMPARE(fs().folders(QStringLiteral("C:\\old")), QStringList{QStringLiteral("good")});
+    const FileSystem::FolderListing listing = fs().listFolder(QStringLiteral("C:\\old"), {"*.*"});
+    QCOMPARE(listing.files, QStringList{QStringLiteral("ok.txt")});
+    QCOMPARE(listing.folders, QStringList{QStringLiteral("good")});
     QCOMPARE(fs().dir(QStringLiteral("C:\\old\\*.txt")), QStringLiteral("ok.txt"));
     QCOMPARE(fs().dir(QStringLiteral("C:\\old\\\uFFFD.txt")), QString());
     QCOMPARE(fs().deleteTree(QStringLiteral("C:\\old")), TreeDeleteResult::Deleted);

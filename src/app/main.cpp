@@ -1,0 +1,42 @@
+// lumenta: a picture show driven by list files.
+#include "platform/Clock.h"
+#include "platform/FileSystem.h"
+#include "platform/Fonts.h"
+#include "platform/Launcher.h"
+#include "platform/QtUserDialogs.h"
+#include "show/FormMain.h"
+#include "start/Lumenta.h"
+#include "start/StateDump.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QStyleFactory>
+
+int main(int argc, char** argv)
+{
+    // Window placement and the always-on-top navigator need an X11 display;
+    // on a Wayland desktop its X11 server serves.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "xcb");
+
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("lumenta"));
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    lumen::installFontSubstitutes();
+
+    lumen::RealClock clock;
+    lumen::QtUserDialogs dialogs;
+    lumen::FileSystem fs(lumen::DriveMap(QDir::homePath()), QStringLiteral("C:\\"));
+    fs.chDir(fs.toProgram(QDir::currentPath()));
+    fs.loadDrivesFile(QDir::home().filePath(QStringLiteral("Lumentas/ForProgramRun_KDR")));
+    lumen::ProcessLauncher launcher(fs);
+    const lumen::Services services{clock, dialogs, launcher, fs};
+
+    QStringList arguments = QApplication::arguments();
+    arguments.removeFirst();
+    lumen::Lumenta lumenta(services, arguments, QApplication::applicationFilePath());
+    dialogs.setOwner(&lumenta.formMain());
+    lumen::StateDump dump(lumenta);
+    lumenta.Main();
+    return QApplication::exec();
+}

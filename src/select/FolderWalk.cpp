@@ -1,0 +1,132 @@
+#include "select/FolderWalk.h"
+
+#include "platform/Basic.h"
+#include "platform/FileSystem.h"
+
+#include <QRegularExpression>
+
+namespace lumen {
+
+namespace {
+
+QString joinPath(const QString& folder, const QString& name)
+{
+    if (folder.endsWith(u'\\'))
+        return folder + name;
+    return folder + u'\\' + name;
+}
+
+QString collapseBackslashes(QString path)
+{
+    static const QRegularExpression runs(QStringLiteral("\\\\{2,}"));
+    return path.replace(runs, QStringLiteral("\\"));
+}
+
+// "*.jpg; *.bmp" as single patterns; none at all means every file.
+QStringList patternsOf(const QString& pattern)
+{
+    QStringList patterns;
+    for (const QString& part : pattern.split(u';')) {
+        const QString trimmed = basic::Trim(part);
+        if (!trimmed.isEmpty())
+            patterns.append(trimmed);
+    }
+    if (patterns.isEmpty())
+        patterns.append(QStringLiteral("*.*"));
+    return patterns;
+}
+
+class WordFilter {
+public:
+    explicit WordFilter(const FolderWalkOptions& options)
+        : word_(basic::UCase(basic::Trim(options.word)))
+        , excluding_(options.includeMode == u"EXC")
+        , nameOnly_(options.target == u"FILE")
+    {}
+
+    bool keeps(const QString& path, const QString& name) const
+    {
+        if (word_.isEmpty())
+            return true;
+        const bool holdsWord = basic::UCase(nameOnly_ ? name : path).contains(word_);
+        return holdsWord != excluding_;
+    }
+
+private:
+    QString word_;
+    bool excluding_;
+    bool nameOnly_;
+};
+
+// The folders never entered, in program form ("Z:\proc").
+class SkippedFolders {
+public:
+    SkippedFolders(const FileSystem& fs, const QStringList& nativeFolders)
+    {
+        for (const QString& folder : nativeFolders) {
+            const QString programForm = fs.toProgram(folder);
+            if (!programForm.isEmpty())
+                folders_.append(programForm);
+        }
+    }
+
+    bool contains(const QString& path) const
+    {
+        return folders_.contains(path, Qt::CaseInsensitive);
+    }
+
+private:
+    QStringList folders_;
+};
+
+} // namespace
+
+QString FolderWalkResult::listText() const
+{
+    QString text;
+    for (const QString& path : files)
+        text += path + QStringLiteral("\r\n");
+    return text;
+}
+
+FolderWalkResult walkFolderTree(const FileSystem& fs, const QString& top,
+                                const FolderWalkOptions& options, const std::function<bool()>& stop)
+{
+    FolderWalkResult result;
+    const QString topFolder = collapseBackslashes(top);
+    if (!fs.isFolder(topFolder))
+        return result;
+    const auto stopNow = [&stop, &result] {
+        result.stopped = stop && stop();
+        return result.stopped;
+    };
+    const QStringList patterns = patternsOf(options.pattern);
+    const WordFilter filter(options);
+    const SkippedFolders skipped(fs, options.systemFolders);
+
+    // The folders still to list, level after level: a folder's sub-folders
+    // join the end, behind the rest of its own level.
+    QStringList pending{topFolder};
+    for (qsizetype next = 0; next < pending.size(); ++next) {
+        if (stopNow())
+            return result;
+        const QString folder = pending.at(next); // a copy: the list grows below
+        const FileSystem::FolderListing listing = fs.listFolder(folder, patterns);
+        ++result.folderCount;
+        for (const QString& name : listing.files) {
+            if (stopNow())
+                return result;
+            const QString path = joinPath(folder, name);
+            if (filter.keeps(path, name))
+                result.files.append(path);
+        }
+        for (const QString& name : listing.folders) {
+            const QString path = joinPath(folder, name);
+            if (!skipped.contains(path))
+                pending.append(path);
+        }
+    }
+    return result;
+}
+
+} // namespace lumen

@@ -1,0 +1,206 @@
+#include "start/Lumenta.h"
+
+#include "fileops/FormStop.h"
+#include "fileops/WorkingFolders.h"
+#include "list/FormHatenaDrive.h"
+#include "platform/Basic.h"
+#include "platform/Clock.h"
+#include "platform/FileSystem.h"
+#include "platform/Fonts.h"
+#include "platform/SafeFile.h"
+#include "settings/FormSetAccessDirectry.h"
+#include "settings/SendToList.h"
+#include "show/FormLumentaExit.h"
+#include "show/FormMain.h"
+#include "start/ModuleStartWithFile.h"
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QTimer>
+
+namespace lumen {
+namespace {
+
+using namespace basic;
+
+const QString kFormMain = QStringLiteral("FormMain");
+const QString kFormSetAccessDirectry = QStringLiteral("FormSetAccessDirectry");
+
+} // namespace
+
+Lumenta::Lumenta(const Services& services, QStringList arguments, const QString& programPath)
+    : services_(services)
+    , stop_(std::make_unique<FormStop>(state_))
+    , host_(*stop_)
+    , basics_(state_, services_, host_)
+    , arguments_(std::move(arguments))
+{
+    quit = [] { QCoreApplication::exit(0); };
+    const QFileInfo program(programPath);
+    state_.ProgramFolder = services_.fs.toProgram(program.absolutePath());
+    state_.ProgramName = program.completeBaseName();
+    setWorkingFolderNames(state_);
+    services_.fs.addProtectedFolder(state_.DataDir);
+    registerForms();
+}
+
+Lumenta::~Lumenta() = default;
+
+const QStringList& Lumenta::unloadOrder()
+{
+    static const QStringList order = {
+        "FormRightLeftNorm", "FormSelectFile",     "FormOption",        "FormComment",
+        "FormEdit",          "FormEdit2",          "FormEditText",      "FormMessage",
+        "FormReplaceEdit",   "FormCommandConbo",   "FormGiveFilter",    "FormSetFontAndColor",
+        "FormViewerSelect",  "FormCDMusic",        "FormSendTo",        "FormSetAccessDirectry",
+        "FormSendApliSet",   "FormWordSet",        "FormPictureScrollSet", "FormSetCommand",
+        "FormHatenaDrive",   "FormStop",           "FormPrint",         "FormRClick",
+        "FormViewerDir",     "FormRClick2",        "FormRClick3",       "FormRClick4",
+        "FormRClick5",       "FormFileOption",     "FormRClick6",       "FormMakeHTML",
+        "FormRichText",      "FormPastComment",    "FormLumentaExit",   "FormFukuMan",
+        "FormSaveImage",     "FormModPic"};
+    return order;
+}
+
+FormMain& Lumenta::formMain() { return *static_cast<FormMain*>(forms_.form(kFormMain)); }
+
+void Lumenta::registerForms()
+{
+    forms_.add(QStringLiteral("FormStop"), [this] { return stop_.get(); });
+    forms_.add(kFormMain, [this]() -> FormBase* {
+        auto* main = new FormMain(basics_, forms_);
+        host_.mainWindow = main;
+        main->links.startWithFile = [this] { startWithFile_->StartWithFile(arguments_); };
+        main->links.unloadAllForms = [this] { UnloadAllForms(); };
+        main->links.endProgram = [this] { End(); };
+        return main;
+    });
+    forms_.add(QStringLiteral("FormHatenaDrive"), [this]() -> FormBase* {
+        auto* drive = new FormHatenaDrive(basics_);
+        drive->replaceDriveInFileName = [this](const QString& from, const QString& to) {
+            QLineEdit* name = formMain().TextFileName;
+            name->setText(QString(name->text()).replace(from, to, Qt::CaseInsensitive));
+        };
+        drive->takeMainAction = [this] { formMain().TakeMainAction(); };
+        return drive;
+    });
+    host_.driveAsker = [this](const QString& mark) {
+        static_cast<FormHatenaDrive*>(forms_.form(QStringLiteral("FormHatenaDrive")))->ask(mark);
+    };
+    forms_.add(kFormSetAccessDirectry, [this]() -> FormBase* {
+        auto* access = new FormSetAccessDirectry(basics_);
+        access->onCompleted = [this] { Main(); };
+        access->onAbandoned = [this] { End(); };
+        return access;
+    });
+    forms_.add(QStringLiteral("FormLumentaExit"), [this]() -> FormBase* {
+        auto* exit = new FormLumentaExit(basics_, formMain());
+        exit->unloadAllForms = [this] { UnloadAllForms(); };
+        exit->endProgram = [this] { End(); };
+        return exit;
+    });
+
+    StartWithFileHooks hooks;
+    hooks.setCyberViewOn = [this] { formMain().CheckUseCyberView->setChecked(true); };
+    hooks.showMainAndStop = [this] {
+        FormMain& main = formMain();
+        stop_->move(main.pos());
+        main.show();
+        stop_->showForm();
+    };
+    hooks.openFileList = [this](const QString& list) { formMain().OpenFileList(list); };
+    hooks.endProgram = [this] { End(); };
+    startWithFile_ = std::make_unique<ModuleStartWithFile>(basics_, std::move(hooks));
+}
+
+QString Lumenta::settingsFile(const QString& name) const
+{
+    return state_.ProgramRunDir + QLatin1Char('\\') + name;
+}
+
+void Lumenta::Main()
+{
+    state_.InSubMain = true;
+    setWorkingFolderNames(state_);
+    state_.WindowsFolder = basics_.GetWindowsFolder();
+    state_.SystemFolder = basics_.GetSystemFolder();
+    makeWorkingFolders(basics_);
+    basics_.WriteTextToFile(state_.ProgramFolder + QLatin1Char('\\') + state_.ProgramName +
+                                QStringLiteral(".exe"),
+                            settingsFile(QStringLiteral("StartFromWhere.dat")));
+    state_.DirecData =
+        readDirecData(services_.fs.toNative(settingsFile(QStringLiteral("DirecData.ran"))));
+    if (FixedText(state_.DirecData.CommentFontName).isEmpty()) {
+        // A first start: that window writes the defaults and comes back here.
+        forms_.form(kFormSetAccessDirectry)->showForm();
+        return;
+    }
+    stop_->applyFont(resolveFontFamily(FixedText(state_.DirecData.DispFontName)), 8);
+    readSmallSettingsFiles();
+    writeDefaultSendToList(basics_);
+    if (FixedText(state_.DirecData.CommentFontName).isEmpty())
+        forms_.form(kFormSetAccessDirectry)->showForm();
+    else
+        formMain().showForm();
+    state_.InSubMain = false;
+}
+
+void Lumenta::readSmallSettingsFiles()
+{
+    const QString allowance = settingsFile(QStringLiteral("PictureSizeAllowVal.dat"));
+    if (basics_.FileExists(allowance)) {
+        state_.PictureSizeAllowVal = qint32(Val(basics_.ReadTextOfFile(allowance)));
+    } else {
+        basics_.WriteTextToFile(QStringLiteral("20"), allowance);
+        state_.PictureSizeAllowVal = 20;
+    }
+
+    const QString accessPass = settingsFile(QStringLiteral("AccessPass.dat"));
+    if (!basics_.FileExists(accessPass)) {
+        state_.AccessPassDir = state_.DataDir;
+        basics_.WriteTextToFile(state_.AccessPassDir, accessPass);
+    } else {
+        state_.AccessPassDir = TrimLineEnds(basics_.ReadTextOfFile(accessPass).section('\r', 0, 0));
+    }
+
+    // The folder the dialogs are locked to. A file written here locks it, but
+    // the box stays as it is until the file is read on a later start.
+    const QString accessLock = settingsFile(QStringLiteral("AccessLockDir.dat"));
+    if (!basics_.FileExists(accessLock)) {
+        state_.AccessLockDir = state_.DataDir;
+        basics_.WriteTextToFile(state_.AccessLockDir + QStringLiteral("\r\n1"), accessLock);
+    } else {
+        const QStringList lines =
+            basics_.ReadTextOfFile(accessLock).split(QStringLiteral("\r\n"));
+        state_.AccessLockDir = TrimLineEnds(lines.value(0));
+        state_.DirectryLock = Val(lines.value(1)) == 1 ? 1 : 0;
+    }
+}
+
+void Lumenta::UnloadAllForms() { forms_.unloadAll(unloadOrder()); }
+
+void Lumenta::saveRecord()
+{
+    writeDirecData(services_.fs.toNative(settingsFile(QStringLiteral("DirecData.ran"))),
+                   state_.DirecData);
+}
+
+void Lumenta::End()
+{
+    if (ended_)
+        return;
+    ended_ = true;
+    if (!FixedText(state_.DirecData.CommentFontName).isEmpty())
+        saveRecord();
+    forms_.hideAll();
+    services_.clock.setEnding(true);
+    // Quit once the handlers on the stack have unwound.
+    QTimer::singleShot(0, [this] {
+        if (quit)
+            quit();
+    });
+}
+
+} // namespace lumen

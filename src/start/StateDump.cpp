@@ -1,0 +1,75 @@
+#include "start/StateDump.h"
+
+#include "platform/FileSystem.h"
+#include "platform/SafeFile.h"
+#include "show/FormMain.h"
+#include "start/Lumenta.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QSocketNotifier>
+
+#include <csignal>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace lumen {
+namespace {
+
+int signalPipe[2] = {-1, -1};
+
+void onSignal(int)
+{
+    const char byte = 1;
+    [[maybe_unused]] const auto written = ::write(signalPipe[1], &byte, 1);
+}
+
+} // namespace
+
+StateDump::StateDump(Lumenta& app)
+    : app_(app)
+{
+    if (::socketpair(AF_UNIX, SOCK_STREAM, 0, signalPipe) != 0)
+        return;
+    notifier_ = new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, this);
+    connect(notifier_, &QSocketNotifier::activated, this, [this] {
+        char byte;
+        [[maybe_unused]] const auto read = ::read(signalPipe[0], &byte, 1);
+        write();
+    });
+    struct sigaction action = {};
+    action.sa_handler = onSignal;
+    sigemptyset(&action.sa_mask);
+    action.sa_flags = SA_RESTART;
+    sigaction(SIGUSR1, &action, nullptr);
+}
+
+StateDump::~StateDump()
+{
+    signal(SIGUSR1, SIG_DFL);
+}
+
+QString StateDump::text() const
+{
+    FormMain& main = app_.formMain();
+    QStringList lines;
+    lines << QStringLiteral("Caption=") + main.windowTitle();
+    for (QLineEdit* box : {main.TextFileName, main.TextCount, main.TextTotal})
+        lines << box->objectName() + QLatin1Char('=') + box->text();
+    lines << QStringLiteral("PicNo=") + QString::number(app_.state().PicNo);
+    lines << QStringLiteral("ListReady=") + (app_.state().ListReady ? "True" : "False");
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && !window->objectName().isEmpty())
+            lines << QStringLiteral("Shown=") + window->objectName();
+    }
+    return lines.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n");
+}
+
+void StateDump::write()
+{
+    const QString file = app_.state().ProgramRunDir + QStringLiteral("\\StateDump.txt");
+    writeTextFileSafely(app_.basics().services().fs.toNative(file), text());
+}
+
+} // namespace lumen

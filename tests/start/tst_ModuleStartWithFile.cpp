@@ -1,0 +1,237 @@
+// Starting with files: the command line read, TempList0.dat, TempList.lst
+// and the windows asked to show it.
+#include "start/ModuleStartWithFile.h"
+
+#include "support/BasicsFixture.h"
+#include "support/Fetch.h"
+
+#include <QDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace lumen;
+using namespace lumen::test;
+
+namespace {
+
+const QString kOccupied = QStringLiteral("C:\\Lumentas\\TempList.lst\r\n"
+                                         "This file name is ocupied by this program. "
+                                         "Please select other files");
+const QString kPositionsFile = QStringLiteral("Lumentas/ForProgramRun_KDR/TempList0.dat");
+const QString kStartListFile = QStringLiteral("Lumentas/TempList.lst");
+
+// The fixture with the hooks recording their calls.
+struct StartFixture : BasicsFixture {
+    QStringList calls;
+    ModuleStartWithFile module{
+        basics,
+        {[this] { calls << QStringLiteral("cyber view on"); },
+         [this] { calls << QStringLiteral("show main and stop"); },
+         [this](const QString& list) { calls << QStringLiteral("open ") + list; },
+         [this] { calls << QStringLiteral("end"); }}};
+
+    StartFixture()
+    {
+        home.writeFile("my pics/a b.jpg", "x");
+        home.writeFile("my pics/sub/c.jpg", "x");
+        home.writeFile("shows/s.lst", "C:\\p\\1.jpg\r\nskip\r\nC:\\p\\2.jpg\r\n");
+        home.writeFile("plain.jpg", "x");
+        home.makeFolder("work");
+    }
+
+    // "~" stands for the home folder.
+    QStringList native(const QStringList& arguments) const
+    {
+        QStringList paths;
+        for (QString argument : arguments)
+            paths << (argument.startsWith(u'~') ? argument.replace(0, 1, home.path()) : argument);
+        return paths;
+    }
+};
+
+} // namespace
+
+class TestModuleStartWithFile : public QObject {
+    Q_OBJECT
+
+private:
+    QString workingFolder_;
+
+private Q_SLOTS:
+    void init() { workingFolder_ = QDir::currentPath(); }
+    void cleanup() { QDir::setCurrent(workingFolder_); }
+
+    void parseCommandLine_data();
+    void parseCommandLine();
+    void occupiedName_data();
+    void occupiedName();
+    void stopWhileScanning();
+    void positionsInAnyCase();
+    void startWithFile_data();
+    void startWithFile();
+    void stopWhileBuilding();
+    void noArguments();
+};
+
+void TestModuleStartWithFile::parseCommandLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("commandLine");
+    QTest::addColumn<QByteArray>("positions");
+
+    QTest::newRow("one name") << QStringList{"~/a.jpg"} << "C:\\a.jpg"
+                              << QByteArray("Pos, 1, 8\r\nC:\\a.jpg\r\n");
+    QTest::newRow("names with blanks")
+        << QStringList{"~/my pics/a b.jpg", "~/c.jpg"} << "C:\\my pics\\a b.jpg C:\\c.jpg"
+        << QByteArray("Pos, 1, 18\r\nPos, 20, 27\r\nC:\\my pics\\a b.jpg C:\\c.jpg\r\n");
+    QTest::newRow("relative names, from the working folder")
+        << QStringList{"x y.jpg", "../up.jpg", "./sub/"}
+        << "C:\\work\\x y.jpg C:\\up.jpg C:\\work\\sub"
+        << QByteArray("Pos, 1, 15\r\nPos, 17, 25\r\nPos, 27, 37\r\n"
+                      "C:\\work\\x y.jpg C:\\up.jpg C:\\work\\sub\r\n");
+    QTest::newRow("outside the home: drive Z")
+        << QStringList{"/usr/share/a.jpg"} << "Z:\\usr\\share\\a.jpg"
+        << QByteArray("Pos, 1, 18\r\nZ:\\usr\\share\\a.jpg\r\n");
+    QTest::newRow("Japanese name, written in Shift-JIS")
+        << QStringList{QStringLiteral("~/写真/a.jpg")} << QStringLiteral("C:\\写真\\a.jpg")
+        << QByteArray("Pos, 1, 11\r\nC:\\\x8e\xca\x90\x5e\\a.jpg\r\n");
+    QTest::newRow("empty arguments left out") << QStringList{"", "~/a.jpg", ""} << "C:\\a.jpg"
+                                              << QByteArray("Pos, 1, 8\r\nC:\\a.jpg\r\n");
+    QTest::newRow("no names") << QStringList{} << "" << QByteArray("\r\n");
+}
+
+void TestModuleStartWithFile::parseCommandLine()
+{
+    StartFixture f;
+    QDir::setCurrent(f.home.native("work"));
+    QVERIFY(f.module.ParseCommandLine(f.native(FETCH(QStringList, arguments))));
+    QCOMPARE(f.module.CommandLineText(), FETCH(QString, commandLine));
+    QCOMPARE(f.home.readFile(kPositionsFile), FETCH(QByteArray, positions));
+    QCOMPARE(f.host.stopEvents, QStringList{"show"});
+    QVERIFY(f.ui.boxes.isEmpty());
+    QVERIFY(f.calls.isEmpty());
+}
+
+void TestModuleStartWithFile::occupiedName_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<bool>("occupied");
+    QTest::newRow("TempList.lst of the data folder")
+        << QStringList{"~/Lumentas/TempList.lst"} << true;
+    QTest::newRow("in other case, behind another name")
+        << QStringList{"~/a.jpg", "~/lumentas/TEMPLIST.lst"} << true;
+    QTest::newRow("a name that begins with it")
+        << QStringList{"~/Lumentas/TempList.lst.jpg"} << true;
+    QTest::newRow("TempList.lst elsewhere") << QStringList{"~/Lumentas/sub/TempList.lst"} << false;
+    QTest::newRow("TempList.lst in the home") << QStringList{"~/TempList.lst"} << false;
+}
+
+void TestModuleStartWithFile::occupiedName()
+{
+    StartFixture f;
+    f.module.StartWithFile(f.native(FETCH(QStringList, arguments)));
+    if (FETCH(bool, occupied)) {
+        QCOMPARE(f.ui.boxes, QStringList{kOccupied});
+        QCOMPARE(f.calls, QStringList{"end"});
+        QVERIFY(!f.home.exists(kPositionsFile));
+        QVERIFY(!f.home.exists(kStartListFile));
+        QVERIFY(!f.state.ListReady);
+    } else {
+        QVERIFY(f.ui.boxes.isEmpty());
+        QVERIFY(!f.calls.contains("end"));
+        QCOMPARE(f.calls.last(), QStringLiteral("open C:\\Lumentas\\TempList.lst"));
+    }
+}
+
+void TestModuleStartWithFile::stopWhileScanning()
+{
+    StartFixture f;
+    // Events run before each name; LabelStop is pressed during the second.
+    f.clock.onDoEvents = [&f] {
+        if (f.clock.doEventsCount == 2)
+            f.state.StopRequested = true;
+    };
+    QVERIFY(f.module.ParseCommandLine(f.native({"~/a.jpg", "~/b.jpg", "~/c.jpg"})));
+    QCOMPARE(f.home.readFile(kPositionsFile),
+             QByteArray("Pos, 1, 8\r\nC:\\a.jpg C:\\b.jpg C:\\c.jpg\r\n"));
+}
+
+void TestModuleStartWithFile::positionsInAnyCase()
+{
+    StartFixture f;
+    QVERIFY(f.module.ParseCommandLine(f.native({"~/plain.jpg", "~/shows/s.lst"})));
+    // Lines are taken in their order when the first field is "POS" in any
+    // case; other lines and bad positions are passed over.
+    f.home.writeFile(kPositionsFile,
+                     "pos, 14, 27\r\nPOSITION, 1, 12\r\n Pos , 1, 12\r\n"
+                     "Pos, 0, 3\r\nPos, 9, 5\r\nC:\\plain.jpg C:\\shows\\s.lst\r\n");
+    f.module.BuildStartList();
+    QCOMPARE(f.home.readFile(kStartListFile),
+             QByteArray("C:\\p\\1.jpg\r\nC:\\p\\2.jpg\r\nC:\\plain.jpg\r\n"));
+    QVERIFY(!f.home.exists(kPositionsFile));
+    QVERIFY(f.calls.isEmpty());
+}
+
+void TestModuleStartWithFile::startWithFile_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("list");
+
+    QTest::newRow("folder, list and file")
+        << QStringList{"~/my pics", "~/shows/s.lst", "~/plain.jpg"}
+        << QByteArray("C:\\my pics\\a b.jpg\r\nC:\\my pics\\sub\\c.jpg\r\n"
+                      "C:\\p\\1.jpg\r\nC:\\p\\2.jpg\r\nC:\\plain.jpg\r\n");
+    QTest::newRow("a name that isn't there")
+        << QStringList{"~/gone.jpg"} << QByteArray("C:\\gone.jpg\r\n");
+    QTest::newRow("Japanese name: Shift-JIS") << QStringList{QStringLiteral("~/写真/a.jpg")}
+                                              << QByteArray("C:\\\x8e\xca\x90\x5e\\a.jpg\r\n");
+    QTest::newRow("name outside Shift-JIS: UTF-8 with its mark")
+        << QStringList{QStringLiteral("~/café.jpg")}
+        << QByteArray("\xEF\xBB\xBF"
+                      "C:\\caf\xC3\xA9.jpg\r\n");
+}
+
+void TestModuleStartWithFile::startWithFile()
+{
+    StartFixture f;
+    f.state.StopRequested = true; // left over: cleared first
+    f.module.StartWithFile(f.native(FETCH(QStringList, arguments)));
+    QCOMPARE(f.home.readFile(kStartListFile), FETCH(QByteArray, list));
+    QVERIFY(!f.home.exists(kPositionsFile));
+    QCOMPARE(f.calls, (QStringList{"cyber view on", "show main and stop",
+                                   "open C:\\Lumentas\\TempList.lst"}));
+    QVERIFY(f.state.ListReady);
+    QVERIFY(!f.state.StopRequested);
+    QCOMPARE(f.host.stopEvents, QStringList{"show"});
+    QVERIFY(f.ui.boxes.isEmpty());
+}
+
+void TestModuleStartWithFile::stopWhileBuilding()
+{
+    StartFixture f;
+    // Events run once per name while scanning (2), then before each name
+    // (3), before the folder's listing (4), before its file (5) and before
+    // its sub-folder (6): the stop there ends the walk and the scan.
+    f.clock.onDoEvents = [&f] {
+        if (f.clock.doEventsCount == 6)
+            f.state.StopRequested = true;
+    };
+    f.module.StartWithFile(f.native({"~/my pics", "~/plain.jpg"}));
+    QCOMPARE(f.home.readFile(kStartListFile), QByteArray("C:\\my pics\\a b.jpg\r\n"));
+    QVERIFY(!f.state.StopRequested);
+    QCOMPARE(f.calls.last(), QStringLiteral("open C:\\Lumentas\\TempList.lst"));
+}
+
+void TestModuleStartWithFile::noArguments()
+{
+    StartFixture f;
+    f.module.StartWithFile({});
+    QVERIFY(f.calls.isEmpty());
+    QVERIFY(!f.home.exists(kStartListFile));
+    QVERIFY(!f.state.ListReady);
+    QVERIFY(f.ui.boxes.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(TestModuleStartWithFile)
+#include "tst_ModuleStartWithFile.moc"
