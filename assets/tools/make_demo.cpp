@@ -172,19 +172,19 @@ int main(int argc, char** argv)
     if (argc < 2)
         return 2;
     const QString folder = QString::fromLocal8Bit(argv[1]) + QLatin1Char('/');
-    bool ok = sunrise().save(folder + "sunrise.png") && mountains().save(folder + "mountains.jpg", nullptr, 85) &&
+    bool ok = sunrise().save(folder + "sunrise.png") &&
+              mountains().save(folder + "mountains.jpg", nullptr, 85) &&
               flower().save(folder + "flower.bmp") && tower().save(folder + "tower.png") &&
               night().save(folder + "night.jpg", nullptr, 85);
     ok = ok && write(folder + "chime.wav", chime());
-    const QString notes = QStringLiteral(
-        "ルメンタのデモ\r\n"
-        "\r\n"
-        "このページはテキストのページです。\r\n"
-        "リストの一行が一枚のページになります。\r\n"
-        "画像、テキスト、音、MIDI、動画、Webページを並べて、\r\n"
-        "→ で次のページへ、← で前のページへ進みます。\r\n"
-        "\r\n"
-        "「自動ﾍﾟｰｼﾞ」を押すと、ページが自動でめくられます。\r\n");
+    const QString notes = QStringLiteral("ルメンタのデモ\r\n"
+                                         "\r\n"
+                                         "このページはテキストのページです。\r\n"
+                                         "リストの一行が一枚のページになります。\r\n"
+                                         "画像、テキスト、音、MIDI、動画、Webページを並べて、\r\n"
+                                         "→ で次のページへ、← で前のページへ進みます。\r\n"
+                                         "\r\n"
+                                         "「自動ﾍﾟｰｼﾞ」を押すと、ページが自動でめくられます。\r\n");
     ok = ok && write(folder + "notes.txt", lumen::text::encodeForFile(notes));
     return ok ? 0 : 1;
 }

@@ -16,7 +16,7 @@ const QString kBackslash = QStringLiteral("\\");
 
 } // namespace
 
-QString TrimLineEnds(QString& text)
+QStringView TrimLineEndsView(QStringView text)
 {
     qsizetype start = 0;
     qsizetype end = text.size();
@@ -34,9 +34,26 @@ QString TrimLineEnds(QString& text)
     } while (cut);
     while (start < end && isLineEnd(text[start]))
         ++start;
-    if (start > 0 || end < text.size())
-        text = text.mid(start, end - start);
+    return text.mid(start, end - start);
+}
+
+QString TrimLineEnds(QString& text)
+{
+    const QStringView trimmed = TrimLineEndsView(text);
+    if (trimmed.size() != text.size())
+        text = trimmed.toString();
     return text;
+}
+
+bool HoldsDriveMark(QStringView text)
+{
+    for (qsizetype colon = text.indexOf(QLatin1Char(':'), 1); colon > 0;
+         colon = text.indexOf(QLatin1Char(':'), colon + 1)) {
+        const QChar mark = text[colon - 1];
+        if (mark == QLatin1Char('*') || mark == QLatin1Char('?') || mark == QLatin1Char('%'))
+            return true;
+    }
+    return false;
 }
 
 QString TrimLineEnds(const QString& text)

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringView>
 
 class QDateTime;
 
@@ -16,6 +17,11 @@ namespace lumen {
 // again). Changes `text` and returns it.
 QString TrimLineEnds(QString& text);
 QString TrimLineEnds(const QString& text);
+// The same on a view of a text, without copying it.
+QStringView TrimLineEndsView(QStringView text);
+
+// A drive mark ("*:", "?:" or "%:") stands in the text.
+bool HoldsDriveMark(QStringView text);
 
 // A fixed record field as text: TrimLineEnds, leading NULs off, blanks trimmed.
 QString FixedText(const QString& field);

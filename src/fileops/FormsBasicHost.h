@@ -5,8 +5,10 @@
 
 #include "fileops/BasicHost.h"
 
+#include <QElapsedTimer>
 #include <QList>
 #include <QPointer>
+#include <QTimer>
 #include <functional>
 
 class QWidget;
@@ -17,9 +19,8 @@ class FormStop;
 
 class FormsBasicHost : public BasicHost {
 public:
-    explicit FormsBasicHost(FormStop& stop)
-        : stop_(stop)
-    {}
+    explicit FormsBasicHost(FormStop& stop);
+    ~FormsBasicHost() override;
 
     QPointer<QWidget> mainWindow;                        // FormMain
     QList<std::function<void()>> fileControlRefreshers;  // one per window with file boxes
@@ -33,7 +34,12 @@ public:
     bool askForcedDrive(const QString& mark) override;
 
 private:
+    void applyStopText();
+
     FormStop& stop_;
+    QString pendingStopText_;
+    QElapsedTimer sinceStopText_;
+    QTimer* stopTextTimer_ = nullptr;
 };
 
 } // namespace lumen

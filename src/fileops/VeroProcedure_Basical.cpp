@@ -273,9 +273,59 @@ void VeroProcedure_Basical::WriteTextToFile(const QString& text, const QString& 
 struct VeroProcedure_Basical::ReadResult {
     bool ok = false;
     QString text;
-    int kept = 0;     // lines that weren't blank (cleaning only)
-    QString original; // the file's text as read (cleaning only)
+    int kept = 0;            // lines that weren't blank (cleaning only)
+    bool sameAsFile = false; // the text is the file's own, line ends included
 };
+
+namespace {
+
+// The text a reader puts out, line by line. As long as what comes out is
+// the very text that was read (a view at the same place, or the same
+// characters), nothing is copied; the first difference copies what came
+// before and from then on the text is built.
+class LineOutput {
+public:
+    explicit LineOutput(QStringView source)
+        : source_(source)
+    {}
+
+    void add(QStringView piece)
+    {
+        if (!built_) {
+            const bool same =
+                piece.data() == source_.data() + kept_ || source_.mid(kept_, piece.size()) == piece;
+            if (same && kept_ + piece.size() <= source_.size()) {
+                kept_ += piece.size();
+                return;
+            }
+            built_ = true;
+            text_.reserve(source_.size() + source_.size() / 8 + 2);
+            text_ += source_.left(kept_);
+        }
+        text_ += piece;
+    }
+
+    bool unchanged(qsizetype sourceSize) const { return !built_ && kept_ == sourceSize; }
+
+    // The text put out; `whole` is the text that was read, handed over when
+    // nothing differed.
+    QString take(QString& whole)
+    {
+        if (built_)
+            return std::move(text_);
+        if (kept_ == whole.size())
+            return std::move(whole);
+        return whole.left(kept_);
+    }
+
+private:
+    QStringView source_;
+    qsizetype kept_ = 0;
+    bool built_ = false;
+    QString text_;
+};
+
+} // namespace
 
 VeroProcedure_Basical::ReadResult VeroProcedure_Basical::readLinesChunked(const QString& path,
                                                                           bool cleaning)
@@ -293,17 +343,21 @@ VeroProcedure_Basical::ReadResult VeroProcedure_Basical::readLinesChunked(const 
     file.close();
 
     ReadResult result;
-    result.text.reserve(whole.size() + whole.size() / 8 + 2);
     const QStringView all(whole);
+    LineOutput output(all);
+    const QString crLf = kCrLf;
     qsizetype pos = 0;
     int lineNo = 0;
     bool stopShown = false;
     while (pos < all.size()) {
         // One line: up to CR LF, LF or CR.
-        qsizetype end = pos;
-        while (end < all.size() && all[end] != QLatin1Char('\r') && all[end] != QLatin1Char('\n'))
-            ++end;
-        QString line = all.mid(pos, end - pos).toString();
+        qsizetype end = all.indexOf(QLatin1Char('\n'), pos);
+        if (end < 0)
+            end = all.size();
+        const qsizetype cr = all.mid(pos, end - pos).indexOf(QLatin1Char('\r'));
+        if (cr >= 0)
+            end = pos + cr;
+        const QStringView line = all.mid(pos, end - pos);
         pos = end;
         if (pos < all.size() && all[pos] == QLatin1Char('\r')) {
             ++pos;
@@ -329,17 +383,23 @@ VeroProcedure_Basical::ReadResult VeroProcedure_Basical::readLinesChunked(const 
             stopShown = true;
         }
         if (stopShown && lineNo % kChunkLines == 0)
-            host_.setStopText(line);
+            host_.setStopText(line.toString());
 
         if (cleaning) {
-            TrimLineEnds(line);
-            if (line.isEmpty())
+            const QStringView trimmed = TrimLineEndsView(line);
+            if (trimmed.isEmpty())
                 continue;
-            line = ResolveDriveName(line);
             ++result.kept;
+            if (HoldsDriveMark(trimmed) || !state_.ForcedDriveFrom.isEmpty()) {
+                const QString resolved = ResolveDriveName(trimmed.toString());
+                output.add(resolved == trimmed ? trimmed : QStringView(resolved));
+            } else {
+                output.add(trimmed);
+            }
+        } else {
+            output.add(line);
         }
-        result.text += line;
-        result.text += kCrLf;
+        output.add(crLf);
     }
     if (stopShown) {
         const int chunks = lineNo / kChunkLines + 1;
@@ -347,8 +407,8 @@ VeroProcedure_Basical::ReadResult VeroProcedure_Basical::readLinesChunked(const 
             host_.setStopText(QString::number(chunk * kChunkLines));
     }
     result.ok = true;
-    if (cleaning)
-        result.original = std::move(whole);
+    result.sameAsFile = output.unchanged(whole.size());
+    result.text = output.take(whole);
     return result;
 }
 
@@ -381,10 +441,10 @@ int VeroProcedure_Basical::CleanListFile(const QString& path, QString* cleanedTe
         while (read.text.endsWith(QLatin1Char('\r')) || read.text.endsWith(QLatin1Char('\n')))
             read.text.chop(1);
         read.text += kCrLf; // as WriteTextToFile prints it, without a second copy
-        // A file that already holds this text is left as it is.
-        if (read.text != read.original)
+        // A file that already holds this text is left as it is: every line
+        // came out as it was, each ended by CR LF.
+        if (!read.sameAsFile)
             writeTextFileSafely(nativePath(path), read.text);
-        read.original.clear();
         host_.unloadStop();
         WaitForFileReady(path);
     }

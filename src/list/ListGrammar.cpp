@@ -3,6 +3,8 @@
 #include "list/CommandWords.h"
 #include "platform/Basic.h"
 
+#include <string_view>
+
 namespace lumen {
 namespace {
 
@@ -22,7 +24,7 @@ const ItemKind kItems[] = {
     {kOption, "ENDOPTION"},
 };
 
-void store(ListRow& row, int start, const QString& value)
+void store(ListRowViews& row, int start, QStringView value)
 {
     switch (start) {
     case kWith:
@@ -32,7 +34,8 @@ void store(ListRow& row, int start, const QString& value)
         row.delay = value;
         break;
     case kComment:
-        row.comment = storedComment(value);
+        row.commentText = storedComment(value.toString());
+        row.comment = row.commentText;
         break;
     case kFileComment:
         row.comment = value;
@@ -45,19 +48,63 @@ void store(ListRow& row, int start, const QString& value)
     }
 }
 
-// The end word is looked for from the "=" on: in lower case first, then as
-// it is stored. Mixed case isn't found. 0 when absent.
-int findEndWord(const QString& line, int equals, const QString& endWord)
+bool isAscii(QStringView text)
 {
-    const int lower = InStr(equals, line, LCase(endWord));
-    if (lower > 0)
-        return lower;
-    return InStr(equals, line, endWord);
+    for (QChar c : text) {
+        if (c.unicode() >= 0x80)
+            return false;
+    }
+    return true;
+}
+
+// The word in capitals equals the item's start word (already in capitals).
+bool sameInCapitals(QStringView word, bool wordAscii, const ListWords::Item& item)
+{
+    if (wordAscii && item.startAscii)
+        return word.size() == item.startCaps.size() &&
+               word.compare(item.startCaps, Qt::CaseInsensitive) == 0;
+    return UCase(word.toString()) == item.startCaps;
+}
+
+// The end word is looked for from the "=" on: in lower case first, then as
+// it is stored. Mixed case isn't found. -1 when absent (0-based positions).
+qsizetype find(QStringView text, const QString& word, qsizetype from)
+{
+    const std::u16string_view haystack(reinterpret_cast<const char16_t*>(text.utf16()),
+                                       std::size_t(text.size()));
+    const std::u16string_view needle(reinterpret_cast<const char16_t*>(word.utf16()),
+                                     std::size_t(word.size()));
+    const std::size_t at = haystack.find(needle, std::size_t(from));
+    return at == std::u16string_view::npos ? -1 : qsizetype(at);
+}
+
+qsizetype findEndWord(QStringView line, qsizetype equals, const ListWords::Item& item,
+                      bool lowerPossible)
+{
+    if (item.end.isEmpty())
+        return -1;
+    if (lowerPossible || item.endLower == item.end) {
+        const qsizetype lower = find(line, item.endLower, equals);
+        if (lower >= 0 || item.endLower == item.end)
+            return lower;
+    }
+    return find(line, item.end, equals);
+}
+
+QStringView trimmed(QStringView text)
+{
+    qsizetype start = 0;
+    qsizetype end = text.size();
+    while (start < end && text[start] == QLatin1Char(' '))
+        ++start;
+    while (end > start && text[end - 1] == QLatin1Char(' '))
+        --end;
+    return text.mid(start, end - start);
 }
 
 } // namespace
 
-LineKind lineKindOf(const QString& line)
+LineKind lineKindOf(QStringView line)
 {
     const int look = qMin<int>(int(line.size()), kMostLeadingBlanks + 1);
     for (int i = 0; i < look; ++i) {
@@ -70,32 +117,77 @@ LineKind lineKindOf(const QString& line)
 
 QString storedComment(const QString& value)
 {
-    return kCommentMark + value.split(kCommentMark).join(QStringLiteral("\r\n"));
+    // The pieces between the marks joined by CR LF, behind one mark.
+    return kCommentMark + QString(value).replace(kCommentMark, QStringLiteral("\r\n"));
 }
 
-ParsedLine parseListLine(const QString& line, const QStringList& commandWord)
+ListWords::ListWords(const QStringList& commandWord)
 {
-    ParsedLine parsed;
-    ListRow& row = parsed.row;
-    const int ats = int(line.count(QLatin1Char('@')));
-    if (ats == 0 || !line.contains(QLatin1Char('='))) {
-        row.main = Trim(line);
-        return parsed;
+    bool first = true;
+    for (const ItemKind& kind : kItems) {
+        const QString end = commandWord.value(kind.start + 1);
+        const QString lower = LCase(end);
+        const QString caps = UCase(commandWord.value(kind.start));
+        items.append({kind.start, caps, isAscii(caps), end, lower, kind.end});
+        if (lower == end)
+            continue;
+        anyLowerDiffers = true;
+        if (first) {
+            lowerPrefix = lower;
+            first = false;
+            continue;
+        }
+        qsizetype common = 0;
+        while (common < lowerPrefix.size() && common < lower.size() &&
+               lowerPrefix[common] == lower[common])
+            ++common;
+        lowerPrefix.truncate(common);
     }
-    row.main = Trim(Left(line, InStr(line, QStringLiteral("@")) - 1));
-    int from = 1;
-    for (int k = 0; k < ats; ++k) {
-        const int at = InStr(from, line, QStringLiteral("@"));
-        if (at == 0)
+}
+
+ParsedLine parseListLine(QStringView line, const QStringList& commandWord)
+{
+    return parseListLine(line, ListWords(commandWord));
+}
+
+ParsedLine parseListLine(QStringView line, const ListWords& words)
+{
+    ListRowViews views;
+    parseListLineViews(line, words, views);
+    ParsedLine parsed;
+    parsed.row = {views.main.toString(), views.with.toString(), views.delay.toString(),
+                  views.comment.toString(), views.option.toString()};
+    parsed.missingEndWord = views.missingEndWord;
+    return parsed;
+}
+
+void parseListLineViews(QStringView line, const ListWords& words, ListRowViews& row)
+{
+    const QStringView view = line;
+    const qsizetype firstAt = view.indexOf(QLatin1Char('@'));
+    if (firstAt < 0 || !view.contains(QLatin1Char('='))) {
+        row.main = trimmed(view);
+        return;
+    }
+    row.main = trimmed(view.left(firstAt));
+    const bool lowerPossible = words.anyLowerDiffers && (words.lowerPrefix.isEmpty() ||
+                                                         find(view, words.lowerPrefix, 0) >= 0);
+    // Each "@" in turn; every turn uses up at least one, so the count of "@"
+    // bounds the turns by itself.
+    qsizetype from = 0;
+    for (;;) {
+        const qsizetype at = view.indexOf(QLatin1Char('@'), from);
+        if (at < 0)
             break;
-        const int equals = InStr(at, line, QStringLiteral("="));
-        if (equals == 0)
+        const qsizetype equals = view.indexOf(QLatin1Char('='), at);
+        if (equals < 0)
             break;
-        const QString word = UCase(Mid(line, at + 1, equals - at - 1));
-        const ItemKind* item = nullptr;
-        for (const ItemKind& kind : kItems) {
-            if (word == UCase(commandWord.value(kind.start))) {
-                item = &kind;
+        const QStringView word = view.mid(at + 1, equals - at - 1);
+        const bool wordAscii = isAscii(word);
+        const ListWords::Item* item = nullptr;
+        for (const ListWords::Item& candidate : words.items) {
+            if (sameInCapitals(word, wordAscii, candidate)) {
+                item = &candidate;
                 break;
             }
         }
@@ -103,16 +195,14 @@ ParsedLine parseListLine(const QString& line, const QStringList& commandWord)
             from = at + 1; // not a start word: passed over
             continue;
         }
-        const QString endWord = commandWord.value(item->start + 1);
-        const int end = endWord.isEmpty() ? 0 : findEndWord(line, equals, endWord);
-        if (end == 0) {
-            parsed.missingEndWord = QStringLiteral(" There is no word ") + QLatin1String(item->end);
+        const qsizetype end = findEndWord(view, equals, *item, lowerPossible);
+        if (end < 0) {
+            row.missingEndWord = QStringLiteral(" There is no word ") + QLatin1String(item->name);
             break;
         }
-        store(row, item->start, Trim(Mid(line, equals + 1, end - equals - 1)));
+        store(row, item->start, trimmed(view.mid(equals + 1, end - equals - 1)));
         from = end;
     }
-    return parsed;
 }
 
 QString listLanguageOf(const QString& wholeText)

@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QStringView>
 
 namespace lumen {
 
@@ -22,7 +23,7 @@ enum class LineKind {
     TooIndented // more than 20 leading blanks: counted, but left empty
 };
 
-LineKind lineKindOf(const QString& line);
+LineKind lineKindOf(QStringView line);
 
 struct ParsedLine {
     ListRow row;
@@ -31,8 +32,42 @@ struct ParsedLine {
     QString missingEndWord;
 };
 
+// The item words of a word table, prepared once for many lines: each start
+// word in capitals, each end word as stored and in lower case.
+struct ListWords {
+    explicit ListWords(const QStringList& commandWord);
+    struct Item {
+        int start;         // index of the start word
+        QString startCaps; // the start word in capitals
+        bool startAscii;   // which is plain ASCII
+        QString end;       // the end word as stored
+        QString endLower;  // and in lower case
+        const char* name;  // the end word named in the message
+    };
+    QList<Item> items;
+    // What every lower-case end word that differs from its stored form
+    // begins with ("end" for the English words): a line without it holds no
+    // lower-case end word, and those searches are spared.
+    QString lowerPrefix;
+    bool anyLowerDiffers = false;
+};
+
+// A parsed line as views into the line (the comment, which is changed, into
+// `comment`'s own text): what the loader stores without copying each value.
+struct ListRowViews {
+    QStringView main;
+    QStringView with;
+    QStringView delay = u"9999";
+    QStringView comment;
+    QStringView option;
+    QString commentText; // holds the stored form of an inline comment
+    QString missingEndWord;
+};
+void parseListLineViews(QStringView line, const ListWords& words, ListRowViews& row);
+
 // Parses one command line with the words of `commandWord` (index 1 to 34).
-ParsedLine parseListLine(const QString& line, const QStringList& commandWord);
+ParsedLine parseListLine(QStringView line, const QStringList& commandWord);
+ParsedLine parseListLine(QStringView line, const ListWords& words);
 
 // "EG" when the text holds "@WITH", "@DELAY", "@COMMENT", "@FILECOMMENT" or
 // "@OPTION" (case-sensitive), else "JP".

@@ -15,13 +15,25 @@ using namespace basic;
 
 constexpr int kChunkLines = 50;
 
-void setRow(StringGrid& grid, int row, const ListRow& values)
+void setRow(StringGrid& grid, int row, const ListRowViews& values)
 {
     grid.set(kColMain, row, values.main);
     grid.set(kColWith, row, values.with);
     grid.set(kColDelay, row, values.delay);
     grid.set(kColComment, row, values.comment);
     grid.set(kColOption, row, values.option);
+}
+
+// Trim: blanks only.
+QStringView trimmedBlanks(QStringView text)
+{
+    qsizetype start = 0;
+    qsizetype end = text.size();
+    while (start < end && text[start] == QLatin1Char(' '))
+        ++start;
+    while (end > start && text[end - 1] == QLatin1Char(' '))
+        --end;
+    return text.mid(start, end - start);
 }
 
 } // namespace
@@ -51,16 +63,20 @@ int prepareWorkingCopy(VeroProcedure_Basical& basics, const QString& fileName, Q
     return count;
 }
 
-ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int count)
+ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int count,
+                       bool withDisplayText)
 {
     ProgramState& state = basics.state();
     state.ListArray.redim(kListColumns, count + 1);
+    state.ListArray.reserveText(text.size());
     SetCommandWords(basics, listLanguageOf(text));
     state.ListFileName = workingCopyName(basics);
 
+    const ListWords words(state.CommandWord);
     ListFill fill;
     QString display;
-    display.reserve(text.size());
+    if (withDisplayText)
+        display.reserve(text.size());
     const QStringView all(text);
     qsizetype pos = 0;
     int lineNo = 0;
@@ -80,7 +96,7 @@ ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int c
             return fill;
         }
         ++fill.fileCount;
-        const QString line = view.toString();
+        const QStringView line = view;
         switch (lineKindOf(line)) {
         case LineKind::TooIndented:
             continue;
@@ -90,17 +106,19 @@ ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int c
         case LineKind::Command:
             break;
         }
-        const ParsedLine parsed = parseListLine(line, state.CommandWord);
-        setRow(state.ListArray, fill.fileCount, parsed.row);
+        ListRowViews parsed;
+        parseListLineViews(line, words, parsed);
+        setRow(state.ListArray, fill.fileCount, parsed);
         if (!parsed.missingEndWord.isEmpty())
             basics.services().ui.msgBox(parsed.missingEndWord);
-        const QString trimmed = Trim(line);
+        const QStringView trimmed = withDisplayText ? trimmedBlanks(line) : QStringView();
         if (!trimmed.isEmpty()) {
             display += trimmed;
             display += QStringLiteral("\r\n");
         }
     }
-    fill.displayText = Trim(display) + QLatin1Char('\r');
+    if (withDisplayText)
+        fill.displayText = Trim(display) + QLatin1Char('\r');
     return fill;
 }
 

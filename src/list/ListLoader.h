@@ -28,6 +28,8 @@ struct ListFill {
 // SetCommandWords, then every line into ListArray (sized for `count` rows),
 // with the missing-end-word messages. Events run every 50 lines; a stop
 // leaves with the rows as far as read.
-ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int count);
+// The display text is made only when `withDisplayText` (quick mode never shows it).
+ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int count,
+                       bool withDisplayText = true);
 
 } // namespace lumen

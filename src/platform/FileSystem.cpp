@@ -6,8 +6,10 @@
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QStringDecoder>
+#include <QTemporaryFile>
 
 #include <algorithm>
+#include <cstdio>
 #include <filesystem>
 #include <sys/stat.h>
 #include <utility>
@@ -420,20 +422,25 @@ bool FileSystem::copyFile(const QString& from, const QString& to)
 {
     const QString source = toNative(from);
     const QString target = toNative(to);
-    if (source.isEmpty() || target.isEmpty() || !QFileInfo(source).isFile())
+    if (source.isEmpty() || target.isEmpty() || !QFileInfo(source).isFile() ||
+        QFileInfo(target).isDir())
         return false;
-    QFile in(source);
-    QSaveFile out(target);
-    if (!in.open(QIODevice::ReadOnly) || !out.open(QIODevice::WriteOnly))
+    // Copied beside the target (the kernel copies when it can), then renamed
+    // over it: the target is never half-written.
+    QTemporaryFile temporary(target + QStringLiteral(".XXXXXX"));
+    if (!temporary.open())
         return false;
-    constexpr qint64 kChunk = 1 << 20;
-    for (QByteArray chunk = in.read(kChunk); !chunk.isEmpty(); chunk = in.read(kChunk)) {
-        if (out.write(chunk) != chunk.size())
-            return false;
+    const QString staged = temporary.fileName();
+    temporary.close();
+    QFile::remove(staged);
+    if (!QFile::copy(source, staged))
+        return false;
+    if (::rename(QFile::encodeName(staged).constData(), QFile::encodeName(target).constData()) !=
+        0) {
+        QFile::remove(staged);
+        return false;
     }
-    if (in.error() != QFileDevice::NoError || !out.commit())
-        return false;
-    return QFile::setPermissions(target, in.permissions());
+    return true;
 }
 
 bool FileSystem::renameFile(const QString& from, const QString& to)

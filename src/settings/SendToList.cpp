@@ -12,7 +12,8 @@ QStringList defaultSendToListLines()
     return {
         QStringLiteral("'このファイルで次の機能を指定できます。"),
         QStringLiteral("'"),
-        QStringLiteral("'1.[Send]をクリックしたときに起動する外部アプリケーションの指定。以下使用例"),
+        QStringLiteral(
+            "'1.[Send]をクリックしたときに起動する外部アプリケーションの指定。以下使用例"),
         QStringLiteral("'C:\\Program Files\\DeepPaint3DTWDemo\\Deep3D.exe"),
         QStringLiteral("'C:\\Program Files\\Sakura\\Sakura.exe"),
         QString(),
@@ -20,14 +21,16 @@ QStringList defaultSendToListLines()
         QString(),
         QStringLiteral("'------------------------------------"),
         QStringLiteral("'2.最も優先させて自動起動させる外部アプリケーションの指定。以下使用例"),
-        QStringLiteral("'[外部アプリケーション名]、[AUTO_START]、[検出して起動させるための単語]を指定します。"),
+        QStringLiteral("'[外部アプリケーション名]、[AUTO_START]、[検出して起動させるための単語]"
+                       "を指定します。"),
         QStringLiteral("'C:\\WINDOWS\\EXPLORER.EXE, AUTO_START,.JPG,.BMP"),
         QString(),
         QString(),
         QString(),
         QStringLiteral("'------------------------------------"),
         QStringLiteral("'3.プログラム自体の内部アプリケーションを使うための指定。"),
-        QStringLiteral("'[内部アプリケーション名]、[AUTO_START]、[検出して起動させるための単語]を指定します。"),
+        QStringLiteral("'[内部アプリケーション名]、[AUTO_START]、[検出して起動させるための単語]"
+                       "を指定します。"),
         QStringLiteral("'以下の決められた単語を使います。大小文字の制限はありません。"),
         QStringLiteral("'SHOW_PICTURE   画像表示用"),
         QStringLiteral("'SHOW_AVIANIME  アニメ表示用(MediaPlayer2)"),
@@ -43,17 +46,26 @@ QStringList defaultSendToListLines()
         QString(),
         QString(),
         QStringLiteral("'------------------------------------"),
-        QStringLiteral("'検出の判断は拡張子ではなく単語で行うため、ディレクトリー名なども対象になります。"),
-        QStringLiteral("'拡張子で検出する場合には、拡張子名の前に点を付けてください。良い例 .MOV、悪い例 MOV"),
-        QStringLiteral("'注意 ＊アプリケーションは５０個まで指定できます。検出のための単語も５０個まで指定できます。"),
+        QStringLiteral(
+            "'検出の判断は拡張子ではなく単語で行うため、ディレクトリー名なども対象になります。"),
+        QStringLiteral(
+            "'拡張子で検出する場合には、拡張子名の前に点を付けてください。良い例 .MOV、悪い例 MOV"),
+        QStringLiteral("'注意 "
+                       "＊アプリケーションは５０個まで指定できます。検出のための単語も５０個まで指"
+                       "定できます。"),
         QStringLiteral("'[']が先頭にあると無視されます。"),
         QStringLiteral("'"),
-        QStringLiteral("'MediaPlayer2では次のファイルを開くことができるとあります。ただし正常に起動できないものもあります。"),
-        QStringLiteral("'このプログラムの初期設定では良く使われる一部のファイルのみ採用していますので参考にして設定してください。"),
+        QStringLiteral("'MediaPlayer2では次のファイルを開くことができるとあります。ただし正常に起動"
+                       "できないものもあります。"),
+        QStringLiteral("'このプログラムの初期設定では良く使われる一部のファイルのみ採用していますの"
+                       "で参考にして設定してください。"),
         QStringLiteral("'(.avi､.asf､.asx､.rmi､.wav､.wma､.wax)  Microsoft Windows Media"),
-        QStringLiteral("'(.mpg､.mpeg､.m1v､.mp2､.mp3､.mpa､.mpe) Moving Pictures Experts Group (MPEG) ファイル"),
-        QStringLiteral("'(.mid､.rmi)                           Musical Instrument Digital Interface (MIDI) ファイル"),
-        QStringLiteral("'(.qt､.aif､.aifc､.aiff､.mov)           Apple QuickTimeｮ, Macintoshｮ AIFF リソース ファイル"),
+        QStringLiteral(
+            "'(.mpg､.mpeg､.m1v､.mp2､.mp3､.mpa､.mpe) Moving Pictures Experts Group (MPEG) ファイル"),
+        QStringLiteral("'(.mid､.rmi)                           Musical Instrument Digital "
+                       "Interface (MIDI) ファイル"),
+        QStringLiteral("'(.qt､.aif､.aifc､.aiff､.mov)           Apple QuickTimeｮ, Macintoshｮ AIFF "
+                       "リソース ファイル"),
         QStringLiteral("'(.au､.snd)                            UNIX ファイル"),
         QStringLiteral("'"),
     };

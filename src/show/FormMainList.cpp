@@ -57,12 +57,12 @@ void FormMain::OpenFileList(const QString& fileName)
     basics_.WaitMilliseconds(100);
     if (count == 0)
         text = basics_.ReadTextOfFile(state_.ListFileName = workingCopyName(basics_));
-    const ListFill fill = fillListArray(basics_, text, count);
+    const bool quick = CheckQuiCkWork->isChecked();
+    const ListFill fill = fillListArray(basics_, text, count, !quick);
     if (fill.stopped)
         return;
     FileCount = fill.fileCount;
 
-    const bool quick = CheckQuiCkWork->isChecked();
     twMove(Picture2, 0, 0, twWidth(Picture1), twHeight(Picture1));
     Picture2->show();
     if (!quick) {

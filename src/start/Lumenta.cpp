@@ -50,21 +50,51 @@ Lumenta::~Lumenta() = default;
 
 const QStringList& Lumenta::unloadOrder()
 {
-    static const QStringList order = {
-        "FormRightLeftNorm", "FormSelectFile",     "FormOption",        "FormComment",
-        "FormEdit",          "FormEdit2",          "FormEditText",      "FormMessage",
-        "FormReplaceEdit",   "FormCommandConbo",   "FormGiveFilter",    "FormSetFontAndColor",
-        "FormViewerSelect",  "FormCDMusic",        "FormSendTo",        "FormSetAccessDirectry",
-        "FormSendApliSet",   "FormWordSet",        "FormPictureScrollSet", "FormSetCommand",
-        "FormHatenaDrive",   "FormStop",           "FormPrint",         "FormRClick",
-        "FormViewerDir",     "FormRClick2",        "FormRClick3",       "FormRClick4",
-        "FormRClick5",       "FormFileOption",     "FormRClick6",       "FormMakeHTML",
-        "FormRichText",      "FormPastComment",    "FormLumentaExit",   "FormFukuMan",
-        "FormSaveImage",     "FormModPic"};
+    static const QStringList order = {"FormRightLeftNorm",
+                                      "FormSelectFile",
+                                      "FormOption",
+                                      "FormComment",
+                                      "FormEdit",
+                                      "FormEdit2",
+                                      "FormEditText",
+                                      "FormMessage",
+                                      "FormReplaceEdit",
+                                      "FormCommandConbo",
+                                      "FormGiveFilter",
+                                      "FormSetFontAndColor",
+                                      "FormViewerSelect",
+                                      "FormCDMusic",
+                                      "FormSendTo",
+                                      "FormSetAccessDirectry",
+                                      "FormSendApliSet",
+                                      "FormWordSet",
+                                      "FormPictureScrollSet",
+                                      "FormSetCommand",
+                                      "FormHatenaDrive",
+                                      "FormStop",
+                                      "FormPrint",
+                                      "FormRClick",
+                                      "FormViewerDir",
+                                      "FormRClick2",
+                                      "FormRClick3",
+                                      "FormRClick4",
+                                      "FormRClick5",
+                                      "FormFileOption",
+                                      "FormRClick6",
+                                      "FormMakeHTML",
+                                      "FormRichText",
+                                      "FormPastComment",
+                                      "FormLumentaExit",
+                                      "FormFukuMan",
+                                      "FormSaveImage",
+                                      "FormModPic"};
     return order;
 }
 
-FormMain& Lumenta::formMain() { return *static_cast<FormMain*>(forms_.form(kFormMain)); }
+FormMain& Lumenta::formMain()
+{
+    return *static_cast<FormMain*>(forms_.form(kFormMain));
+}
 
 void Lumenta::registerForms()
 {
@@ -172,14 +202,16 @@ void Lumenta::readSmallSettingsFiles()
         state_.AccessLockDir = state_.DataDir;
         basics_.WriteTextToFile(state_.AccessLockDir + QStringLiteral("\r\n1"), accessLock);
     } else {
-        const QStringList lines =
-            basics_.ReadTextOfFile(accessLock).split(QStringLiteral("\r\n"));
+        const QStringList lines = basics_.ReadTextOfFile(accessLock).split(QStringLiteral("\r\n"));
         state_.AccessLockDir = TrimLineEnds(lines.value(0));
         state_.DirectryLock = Val(lines.value(1)) == 1 ? 1 : 0;
     }
 }
 
-void Lumenta::UnloadAllForms() { forms_.unloadAll(unloadOrder()); }
+void Lumenta::UnloadAllForms()
+{
+    forms_.unloadAll(unloadOrder());
+}
 
 void Lumenta::saveRecord()
 {

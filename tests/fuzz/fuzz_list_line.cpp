@@ -12,10 +12,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     static const QStringList english = lumen::englishCommandWords();
     static const QStringList user = [] {
         QStringList words = lumen::englishCommandWords();
-        lumen::applyUserCommandWords(words, lumen::defaultCommandListLines().join(QStringLiteral("\r\n")));
+        lumen::applyUserCommandWords(words,
+                                     lumen::defaultCommandListLines().join(QStringLiteral("\r\n")));
         return words;
     }();
-    const QString text = lumen::text::decode(QByteArray(reinterpret_cast<const char*>(data), qsizetype(size)));
+    const QString text =
+        lumen::text::decode(QByteArray(reinterpret_cast<const char*>(data), qsizetype(size)));
     const QStringList& words = lumen::listLanguageOf(text) == QLatin1String("EG") ? english : user;
     for (const QString& line : lumen::text::splitLines(text)) {
         if (lumen::lineKindOf(line) != lumen::LineKind::Command)

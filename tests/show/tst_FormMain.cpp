@@ -61,6 +61,7 @@ private Q_SLOTS:
     void closingSavesTheRecord();
     void closingInWholeScreenIsRefused();
     void autoStartOfAPicture();
+    void damagedRecordLoads();
 };
 
 void TestFormMain::layoutKeepsItsMinimumAndFramePlaces()
@@ -297,6 +298,18 @@ void TestFormMain::autoStartOfAPicture()
     missing.main.showForm();
     QCOMPARE(missing.main.TextFileName->text(), QString());
     QVERIFY(missing.ui.boxes.isEmpty());
+}
+
+void TestFormMain::damagedRecordLoads()
+{
+    MainFixture f;
+    QByteArray garbage(DirecDataRecord::kSize, '\0');
+    for (int i = 0; i < garbage.size(); ++i)
+        garbage[i] = char((i * 131 + 7) % 256);
+    f.state.DirecData = DirecDataRecord::fromBytes(garbage);
+    f.main.showForm(); // fonts, colours and auto start from nonsense: no harm
+    QVERIFY(f.main.isVisible());
+    QVERIFY(twWidth(&f.main) >= 12000);
 }
 
 QTEST_MAIN(TestFormMain)

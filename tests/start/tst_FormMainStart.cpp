@@ -78,13 +78,17 @@ void TestFormMainStart::firstStartShowsOnlyTheAccessWindow()
     QVERIFY(a.app->state().InSubMain);
 
     // Completing it goes on into the normal start without a restart.
-    a.app->forms().form("FormSetAccessDirectry")->findChild<QPushButton*>("CommandExit")->setEnabled(true);
+    a.app->forms()
+        .form("FormSetAccessDirectry")
+        ->findChild<QPushButton*>("CommandExit")
+        ->setEnabled(true);
     a.app->forms().form("FormSetAccessDirectry")->findChild<QPushButton*>("CommandExit")->click();
     QVERIFY(a.shown("FormMain"));
     QVERIFY(!a.shown("FormSetAccessDirectry"));
     QVERIFY(!a.app->state().InSubMain);
-    QCOMPARE(readDirecData(a.home.native("Lumentas/ForProgramRun_KDR/DirecData.ran")).AutoPageInterval,
-             qint16(3));
+    QCOMPARE(
+        readDirecData(a.home.native("Lumentas/ForProgramRun_KDR/DirecData.ran")).AutoPageInterval,
+        qint16(3));
 }
 
 void TestFormMainStart::normalStartWritesItsDefaults()
@@ -148,7 +152,8 @@ void TestFormMainStart::closingEndsInTheFixedOrder()
 {
     App a;
     QStringList unloaded;
-    for (const QString& name : {QStringLiteral("FormSetAccessDirectry"), QStringLiteral("FormHatenaDrive")}) {
+    for (const QString& name :
+         {QStringLiteral("FormSetAccessDirectry"), QStringLiteral("FormHatenaDrive")}) {
         FormBase* form = a.app->forms().form(name);
         QObject::connect(form, &FormBase::unloaded, form, [&unloaded, name] { unloaded << name; });
         form->load();
