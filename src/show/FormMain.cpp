@@ -251,6 +251,24 @@ void FormMain::connectHandlers()
     connect(TextTotal, &QLineEdit::textChanged, this, &FormMain::TextTotal_Change);
     connect(TextHeadName, &QLineEdit::textChanged, this, &FormMain::TextHeadName_Change);
     connect(CheckOriginalSize, &QCheckBox::clicked, this, &FormMain::Form_Resize);
+    connect(CommandHatenaSettei, &QPushButton::clicked, this, &FormMain::CommandHatenaSettei_Click);
+
+    // Commands whose work isn't in this build yet stand disabled.
+    for (QWidget* command : std::initializer_list<QWidget*>{
+             CommandLeft, CommandRight, CommandCopy, CommandDeleate, CommandRecov, CommandModPic,
+             CommandSaveImage, CommandScrollSizeAllowValue, CommandFull, CommandOption,
+             CommandEdit, CommandWriteCommentOnPic, CommandMakeHTML, CommandSendTo,
+             CommandIELeft, CommandIERight}) {
+        command->setEnabled(false);
+        command->setToolTip(QStringLiteral("準備中"));
+    }
+}
+
+void FormMain::CommandHatenaSettei_Click()
+{
+    state_.HatenaDriveAsked = false;
+    if (FormBase* drive = forms_.form(QStringLiteral("FormHatenaDrive")))
+        drive->showForm();
 }
 
 } // namespace lumen

@@ -123,6 +123,7 @@ public:
     void TextCount_Change();
     void TextTotal_Change();
     void TextHeadName_Change();
+    void CommandHatenaSettei_Click();
 
 protected:
     void Form_Load() override;
