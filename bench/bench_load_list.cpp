@@ -9,6 +9,7 @@
 #include "platform/TextCodec.h"
 #include "show/FormMain.h"
 #include "state/ProgramState.h"
+#include "support/FakeMedia.h"
 #include "support/Fakes.h"
 #include "support/TestHome.h"
 
@@ -50,7 +51,8 @@ int main(int argc, char** argv)
     state.DataDir = QStringLiteral("C:\\Lumentas");
     state.ProgramRunDir = QStringLiteral("C:\\Lumentas\\ForProgramRun_KDR");
     home.makeFolder(QStringLiteral("Lumentas/ForProgramRun_KDR"));
-    Services services{clock, ui, launcher, home.fs};
+    test::FakeMedia media;
+    Services services{clock, ui, launcher, home.fs, media};
     FormStop stop(state);
     FormsBasicHost host(stop);
     VeroProcedure_Basical basics(state, services, host);

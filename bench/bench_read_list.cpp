@@ -6,6 +6,7 @@
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
 #include "platform/Launcher.h"
+#include "platform/Media.h"
 #include "platform/TextCodec.h"
 #include "platform/UserDialogs.h"
 #include "state/ProgramState.h"
@@ -17,6 +18,7 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <functional>
 #include <malloc.h>
@@ -59,6 +61,14 @@ public:
         return std::nullopt;
     }
     QString browseForFolder(const QString&, const QString&) override { return {}; }
+};
+
+class NoMedia : public Media {
+public:
+    void playSound(const QString&) override {}
+    std::unique_ptr<MediaEngine> createEngine(bool) override { return nullptr; }
+    std::unique_ptr<WebSurface> createWebSurface() override { return nullptr; }
+    CdDrive& cd() override { std::abort(); }
 };
 
 class NoLauncher : public Launcher {
@@ -128,7 +138,8 @@ int main(int argc, char** argv)
     QuietHost host;
     ProgramState state;
     state.DataDir = QStringLiteral("C:\\Lumentas");
-    Services services{clock, ui, launcher, fs};
+    NoMedia media;
+    Services services{clock, ui, launcher, fs, media};
     VeroProcedure_Basical basics(state, services, host);
 
     const int lines = 32767;

@@ -3,6 +3,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Fonts.h"
 #include "platform/Launcher.h"
+#include "platform/Media.h"
 #include "platform/QtUserDialogs.h"
 #include "show/FormMain.h"
 #include "start/Lumenta.h"
@@ -11,6 +12,21 @@
 #include <QApplication>
 #include <QDir>
 #include <QStyleFactory>
+
+#include <cstdlib>
+
+namespace {
+
+// Until the media layer joins: nothing plays.
+class NoMediaYet : public lumen::Media {
+public:
+    void playSound(const QString&) override {}
+    std::unique_ptr<lumen::MediaEngine> createEngine(bool) override { return nullptr; }
+    std::unique_ptr<lumen::WebSurface> createWebSurface() override { return nullptr; }
+    lumen::CdDrive& cd() override { std::abort(); }
+};
+
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -30,7 +46,8 @@ int main(int argc, char** argv)
     fs.chDir(fs.toProgram(QDir::currentPath()));
     fs.loadDrivesFile(QDir::home().filePath(QStringLiteral("Lumentas/ForProgramRun_KDR")));
     lumen::ProcessLauncher launcher(fs);
-    const lumen::Services services{clock, dialogs, launcher, fs};
+    NoMediaYet media;
+    const lumen::Services services{clock, dialogs, launcher, fs, media};
 
     QStringList arguments = QApplication::arguments();
     arguments.removeFirst();

@@ -7,6 +7,7 @@ namespace lumen {
 class Clock;
 class FileSystem;
 class Launcher;
+class Media;
 class UserDialogs;
 
 struct Services {
@@ -14,6 +15,7 @@ struct Services {
     UserDialogs& ui;
     Launcher& launcher;
     FileSystem& fs;
+    Media& media;
 };
 
 } // namespace lumen

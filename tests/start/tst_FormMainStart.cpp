@@ -4,6 +4,7 @@
 #include "settings/SendToList.h"
 #include "show/FormMain.h"
 #include "start/Lumenta.h"
+#include "support/FakeMedia.h"
 #include "support/Fakes.h"
 #include "support/TestHome.h"
 
@@ -23,7 +24,8 @@ struct App {
     FakeClock clock;
     FakeDialogs ui;
     FakeLauncher launcher;
-    Services services{clock, ui, launcher, home.fs};
+    FakeMedia media;
+    Services services{clock, ui, launcher, home.fs, media};
     std::unique_ptr<Lumenta> app;
     int quits = 0;
 

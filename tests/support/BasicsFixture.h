@@ -5,6 +5,7 @@
 #include "fileops/VeroProcedure_Basical.h"
 #include "state/ProgramState.h"
 #include "support/FakeBasicHost.h"
+#include "support/FakeMedia.h"
 #include "support/Fakes.h"
 #include "support/TestHome.h"
 
@@ -17,7 +18,8 @@ struct BasicsFixture {
     FakeLauncher launcher;
     FakeBasicHost host;
     ProgramState state;
-    Services services{clock, ui, launcher, home.fs};
+    FakeMedia media;
+    Services services{clock, ui, launcher, home.fs, media};
     VeroProcedure_Basical basics{state, services, host};
 
     BasicsFixture()
