@@ -15,15 +15,42 @@ PictureBox::PictureBox(const QString& name, QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent, false);
 }
 
+const QImage& PictureBox::picture() const
+{
+    if (read_) {
+        picture_ = read_();
+        read_ = nullptr;
+    }
+    return picture_;
+}
+
+void PictureBox::adopt(const QSize& size)
+{
+    pictureSize_ = size;
+    if (autoSize_ && !size.isEmpty())
+        resize(size);
+    update();
+}
+
 void PictureBox::setPicture(const QImage& picture)
 {
     picture_ = picture;
-    update();
+    read_ = nullptr;
+    adopt(picture.size());
+}
+
+void PictureBox::setLazyPicture(const QSize& size, std::function<QImage()> read)
+{
+    picture_ = QImage();
+    read_ = std::move(read);
+    adopt(size);
 }
 
 void PictureBox::clearPicture()
 {
     picture_ = QImage();
+    read_ = nullptr;
+    pictureSize_ = QSize();
     update();
 }
 
@@ -47,8 +74,8 @@ void PictureBox::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), palette().color(QPalette::Window));
-    if (!picture_.isNull())
-        painter.drawImage(QPoint(0, 0), picture_);
+    if (hasPicture() && !rect().isEmpty())
+        painter.drawImage(QPoint(0, 0), picture());
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event)

@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QWidget>
 
+#include <functional>
+
 namespace lumen {
 
 class PictureBox : public QWidget {
@@ -13,10 +15,18 @@ class PictureBox : public QWidget {
 public:
     explicit PictureBox(const QString& name, QWidget* parent = nullptr);
 
-    const QImage& picture() const { return picture_; }
-    bool hasPicture() const { return !picture_.isNull(); }
+    // The picture; one set lazily is read on first use.
+    const QImage& picture() const;
+    bool hasPicture() const { return !pictureSize_.isEmpty(); }
+    QSize pictureSize() const { return pictureSize_; } // pixels
     void setPicture(const QImage& picture);
+    // A picture whose size is known and whose pixels are read only when
+    // they are wanted (painted, or asked for).
+    void setLazyPicture(const QSize& size, std::function<QImage()> read);
     void clearPicture(); // Picture = Nothing, Cls
+
+    // AutoSize: the box takes the size of each picture it is given.
+    void setAutoSize(bool on) { autoSize_ = on; }
 
     // PaintPicture: the source scaled into the rectangle (pixels) of a
     // picture the box's size; the box keeps the result as its picture.
@@ -37,7 +47,12 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
-    QImage picture_;
+    void adopt(const QSize& size);
+
+    mutable QImage picture_;
+    mutable std::function<QImage()> read_;
+    QSize pictureSize_;
+    bool autoSize_ = false;
 };
 
 } // namespace lumen

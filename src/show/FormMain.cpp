@@ -2,6 +2,7 @@
 #include "show/FormMain.h"
 
 #include "display/PictureBox.h"
+#include "display/PictureCache.h"
 #include "fileops/VeroProcedure_Basical.h"
 #include "platform/ClickLabel.h"
 #include "platform/Colors.h"
@@ -66,6 +67,7 @@ FormMain::FormMain(VeroProcedure_Basical& basics, FormRegistry& forms, QWidget* 
     , basics_(basics)
     , state_(basics.state())
     , forms_(forms)
+    , pictures_(std::make_unique<PictureCache>())
 {
     setWindowTitle(QStringLiteral("Lumenta_KDR"));
     buildDisplay();
@@ -96,6 +98,7 @@ void FormMain::buildFrame1()
     }
     HScrollPicNom = scrollBar(QStringLiteral("HScrollPicNom"), Frame1);
     HScrollPicNom->setRange(0, 1);
+    HScrollPicNom->setTracking(false); // Change on release; Scroll while dragging
     TextCount = textBox(QStringLiteral("TextCount"), QString(), Frame1);
     TextTotal = textBox(QStringLiteral("TextTotal"), QString(), Frame1);
     TextTotal->setReadOnly(true);
@@ -216,6 +219,7 @@ void FormMain::buildDisplay()
 {
     Picture1 = new PictureBox(QStringLiteral("Picture1"), this);
     Picture2 = new PictureBox(QStringLiteral("Picture2"), Picture1);
+    Picture2->setAutoSize(true); // sized by the picture it holds
     Picture3 = new PictureBox(QStringLiteral("Picture3"), Picture1);
     Text1 = new QPlainTextEdit(Picture1);
     Text1->setObjectName(QStringLiteral("Text1"));
@@ -253,16 +257,26 @@ void FormMain::connectHandlers()
     connect(CheckOriginalSize, &QCheckBox::clicked, this, &FormMain::Form_Resize);
     connect(CommandHatenaSettei, &QPushButton::clicked, this, &FormMain::CommandHatenaSettei_Click);
 
+    connect(CommandRight, &QPushButton::clicked, this, &FormMain::CommandRight_Click);
+    connect(CommandLeft, &QPushButton::clicked, this, &FormMain::CommandLeft_Click);
+    connect(HScrollPicNom, &QScrollBar::sliderMoved, this, &FormMain::HScrollPicNom_Scroll);
+    connect(HScrollPicNom, &QScrollBar::valueChanged, this, &FormMain::HScrollPicNom_Change);
+    connect(HScroll1, &QScrollBar::valueChanged, this, &FormMain::HScroll1_Change);
+    connect(VScroll1, &QScrollBar::valueChanged, this, &FormMain::VScroll1_Change);
+    connect(CommandCopy, &QPushButton::clicked, this, &FormMain::CommandCopy_Click);
+    connect(CommandDeleate, &QPushButton::clicked, this, &FormMain::CommandDeleate_Click);
+    connect(CommandRecov, &QPushButton::clicked, this, &FormMain::CommandRecov_Click);
+
     // Commands whose work isn't in this build yet stand disabled.
     for (QWidget* command : std::initializer_list<QWidget*>{
-             CommandLeft, CommandRight, CommandCopy, CommandDeleate, CommandRecov, CommandModPic,
-             CommandSaveImage, CommandScrollSizeAllowValue, CommandFull, CommandOption,
-             CommandEdit, CommandWriteCommentOnPic, CommandMakeHTML, CommandSendTo,
-             CommandIELeft, CommandIERight}) {
+             CommandModPic, CommandSaveImage, CommandFull, CommandOption, CommandEdit,
+             CommandWriteCommentOnPic, CommandMakeHTML}) {
         command->setEnabled(false);
         command->setToolTip(QStringLiteral("準備中"));
     }
 }
+
+FormMain::~FormMain() = default;
 
 void FormMain::CommandHatenaSettei_Click()
 {

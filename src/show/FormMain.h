@@ -7,6 +7,7 @@
 #include "platform/FormBase.h"
 
 #include <functional>
+#include <memory>
 
 class QCheckBox;
 class QGroupBox;
@@ -18,6 +19,7 @@ class QPlainTextEdit;
 namespace lumen {
 
 class ClickLabel;
+class PictureCache;
 class FormRegistry;
 class PictureBox;
 class VeroProcedure_Basical;
@@ -36,8 +38,10 @@ class FormMain : public FormBase {
     Q_OBJECT
 public:
     FormMain(VeroProcedure_Basical& basics, FormRegistry& forms, QWidget* parent = nullptr);
+    ~FormMain() override;
 
     FormMainLinks links;
+    PictureCache& pictures() { return *pictures_; }
 
     // ---- Frame1: paging and lists
     QGroupBox* Frame1;
@@ -101,8 +105,41 @@ public:
     bool ScrollGuard = false;
     bool FullOnNext = false;
     bool NormalOnNext = false;
+
+    // ---- Layout state of the picture
+    qint32 ExcessHeight = 0;
+    qint32 ExcessWidth = 0;
+    double RatioWidth = 0;
+    double RatioHeight = 0;
+    double FitRatio = 0;
     bool HScrollNeeded = false;
     bool VScrollNeeded = false;
+    bool LargePictureFlag = false;
+    QString ForcedShowKind;
+    bool FillMode = false;
+    bool NormalMode = true;
+    bool PutPictureInImage = false; // no command sets it; PUTPICTUREINIMAGE works through CheckOriginalSize
+
+    // ---- The page's kind and companions
+    bool KindVrml = false;
+    bool KindNff = false;
+    bool KindAvi = false;
+    bool KindSound = false;
+    bool KindMidi = false;
+    bool KindText = false;
+    bool KindCD = false;
+    bool KindWeb = false;
+    bool KindExe = false;
+    bool KindXv3 = false;
+    bool KindCo = false;
+    bool TextAsAvi = false;
+    bool HasWith = false;
+    bool HasDelay = false;
+    bool HasComment = false;
+    bool HideText = false;
+    bool HideComment = false;
+    bool HideWave = false;
+    bool TextShown = false;
 
     // ---- Procedures
     void Form_Resize();
@@ -111,11 +148,40 @@ public:
     void OpenFileList(const QString& fileName);
     void CleareDisp(QString kind);
     void TakeMainAction();
-    void PrepareShow();
-    void RelayoutCurrentPage();
     void CheckAuto_With();
 
+    // The picture in the frame.
+    void DisplayPicturePage();
+    void PrepareShow();
+    void FitPictureToFrame();
+    void PlaceScrollBars();
+    void CentrePicture3();
+    void RelayoutCurrentPage();
+    void SetWebScrollBars();
+    void HScroll1_Change();
+    void VScroll1_Change();
+
+    // The page's kind and its surfaces.
+    void ClassifyMainFile(const QString& fileName);
+    void ClassifyWithFile(const QString& fileName);
+    void ShowText();
+    void ShowVrml();
+    void ShowNff();
+    void ShowWeb();
+    void ShowExe();
+    void ShowAvi();
+    void ShowMidi();
+    void ShowCDMusic();
+    void PlaySoundFile(const QString& programPath);
+
     // ---- Handlers
+    void CommandRight_Click();
+    void CommandLeft_Click();
+    void HScrollPicNom_Scroll();
+    void HScrollPicNom_Change();
+    void CommandCopy_Click();
+    void CommandDeleate_Click();
+    void CommandRecov_Click();
     void CommandOpenFileList_Click();
     void CommandNoText_Click();
     void CommandExit_Click();
@@ -131,6 +197,18 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    QString mainFile() const;   // column 0 of the page
+    QString withFile() const;   // column 1 of the page
+    QString nativeOf(const QString& programPath) const;
+    void companionRule(bool skipWhenResizing);
+    void showCommentWindow();
+    void runOption(const QString& word);
+    void prepareNextPicture();
+    QSize fittedSize(const QSize& picture) const;
+    bool loadPageIntoPicture2(const QString& file);
+    void setCommentVisible(bool shown);
+    void step(int direction);
+    void relayoutVideo(bool showIt);
     void buildFrame1();
     void buildFrame2();
     void buildFrame3();
@@ -144,6 +222,7 @@ private:
     VeroProcedure_Basical& basics_;
     ProgramState& state_;
     FormRegistry& forms_;
+    std::unique_ptr<PictureCache> pictures_;
     double noTextWait_ = 1000; // the list view's wait; CommandNoText sets it to 0
     bool inResize_ = false;
 };
