@@ -2,6 +2,8 @@
 
 #include "platform/FileSystem.h"
 
+#include <QFileInfo>
+
 namespace lumen {
 namespace {
 
@@ -144,6 +146,12 @@ void FileListBox::setPattern(const QString& pattern)
     refresh();
 }
 
+void FileListBox::setExecutablesOnly(bool on)
+{
+    executablesOnly_ = on;
+    refresh();
+}
+
 QString FileListBox::fileName() const
 {
     const QListWidgetItem* item = currentItem();
@@ -155,6 +163,13 @@ void FileListBox::refresh()
     clear();
     if (path_.isEmpty())
         return;
+    QStringList names = executablesOnly_ ? executableNames() : matchingNames();
+    names.sort(Qt::CaseInsensitive);
+    addItems(names);
+}
+
+QStringList FileListBox::matchingNames() const
+{
     QStringList names;
     for (const QString& pattern : pattern_.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
         for (const QString& name : fs_.files(path_, pattern.trimmed())) {
@@ -162,8 +177,20 @@ void FileListBox::refresh()
                 names << name;
         }
     }
-    names.sort(Qt::CaseInsensitive);
-    addItems(names);
+    return names;
+}
+
+QStringList FileListBox::executableNames() const
+{
+    constexpr auto kExecBits =
+        QFileDevice::ExeOwner | QFileDevice::ExeGroup | QFileDevice::ExeOther;
+    QStringList names;
+    for (const QString& name : fs_.files(path_, QStringLiteral("*.*"))) {
+        const QFileInfo info(fs_.toNative(joinPath(path_, name)));
+        if (info.permissions() & kExecBits)
+            names << name;
+    }
+    return names;
 }
 
 } // namespace lumen

@@ -49,6 +49,9 @@ private:
 };
 
 // File1: the files of a folder that match the pattern ("*.Lst", "*.jpg;*.bmp").
+// A box set to executables only lists the files with an exec bit instead,
+// whatever their names: a "*.exe" box keeps its pattern for what it shows
+// and lists the programs of the folder.
 class FileListBox : public QListWidget {
     Q_OBJECT
 public:
@@ -58,13 +61,19 @@ public:
     void setPath(const QString& path);
     QString pattern() const { return pattern_; }
     void setPattern(const QString& pattern);
-    QString fileName() const; // the selected name, "" when none
+    bool executablesOnly() const { return executablesOnly_; }
+    void setExecutablesOnly(bool on); // off by default
+    QString fileName() const;         // the selected name, "" when none
     void refresh();
 
 private:
+    QStringList matchingNames() const;
+    QStringList executableNames() const;
+
     FileSystem& fs_;
     QString path_;
     QString pattern_ = QStringLiteral("*.*");
+    bool executablesOnly_ = false;
 };
 
 } // namespace lumen

@@ -3,9 +3,15 @@
 #include "fileops/VeroProcedure_Basical.h"
 #include "platform/FileSystem.h"
 #include "platform/SafeFile.h"
+#include "platform/TextCodec.h"
 #include "state/ProgramState.h"
 
 namespace lumen {
+
+QString sendToListPath(const ProgramState& state)
+{
+    return state.ProgramRunDir + QStringLiteral("\\SendToList.txt");
+}
 
 QStringList defaultSendToListLines()
 {
@@ -71,9 +77,21 @@ QStringList defaultSendToListLines()
     };
 }
 
+QStringList readSendToListLines(const VeroProcedure_Basical& basics)
+{
+    const std::optional<QString> text =
+        readTextFile(basics.services().fs.toNative(sendToListPath(basics.state())));
+    return text ? text::splitLines(*text) : QStringList();
+}
+
+bool isSendToListRemark(const QString& trimmedLine)
+{
+    return trimmedLine.isEmpty() || trimmedLine.startsWith(QLatin1Char('\''));
+}
+
 void writeDefaultSendToList(VeroProcedure_Basical& basics)
 {
-    const QString file = basics.state().ProgramRunDir + QStringLiteral("\\SendToList.txt");
+    const QString file = sendToListPath(basics.state());
     if (basics.FileExists(file))
         return;
     writeTextFileSafely(basics.services().fs.toNative(file),
