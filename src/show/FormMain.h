@@ -5,6 +5,7 @@
 #pragma once
 
 #include "platform/FormBase.h"
+#include "settings/AutoStartTable.h"
 
 #include <functional>
 #include <memory>
@@ -223,6 +224,7 @@ private:
     ProgramState& state_;
     FormRegistry& forms_;
     std::unique_ptr<PictureCache> pictures_;
+    AutoStartTable autoStart_;
     double noTextWait_ = 1000; // the list view's wait; CommandNoText sets it to 0
     bool inResize_ = false;
 };

@@ -46,6 +46,8 @@ bool beginsWithRiff(const QString& nativePath)
 
 } // namespace
 
+void FormMain::CheckAuto_With() { lumen::CheckAuto_With(basics_, autoStart_); }
+
 QString FormMain::mainFile() const { return state_.ListArray.at(kColMain, state_.PicNo); }
 QString FormMain::withFile() const { return state_.ListArray.at(kColWith, state_.PicNo); }
 
@@ -176,8 +178,7 @@ void FormMain::TakeMainAction()
     }
 
     CommandNoText->hide();
-    AutoStartTable::Match match = autoStart_.check(main);
-    ForcedShowKind = match.forcedShowKind;
+    CheckAutoWith(main, autoStart_, ForcedShowKind); // only the kind it forces is kept
 
     ClassifyMainFile(main);
     const bool anyKind = KindVrml || KindNff || KindAvi || KindSound || KindMidi || KindText ||
