@@ -1,0 +1,384 @@
+// FormComment and its popup FormOmake driven by their object names: the
+// comment fields of the record, dragging, hugging the text, the popup.
+#include "display/FormComment.h"
+#include "display/FormOmake.h"
+#include "platform/Colors.h"
+#include "platform/Controls.h"
+#include "platform/Fonts.h"
+#include "platform/FormRegistry.h"
+#include "platform/Twips.h"
+#include "support/BasicsFixture.h"
+#include "support/Fetch.h"
+#include "support/Shots.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace lumen;
+using namespace lumen::test;
+
+namespace {
+
+// The comment window and its popup made through the registry, as the
+// program makes them.
+struct CommentFixture : BasicsFixture {
+    FormRegistry forms;
+
+    CommentFixture()
+    {
+        forms.add(QStringLiteral("FormComment"),
+                  [this]() -> FormBase* { return new FormComment(basics, forms); });
+        forms.add(QStringLiteral("FormOmake"),
+                  [this]() -> FormBase* { return new FormOmake(forms); });
+        DirecDataRecord& record = state.DirecData;
+        record.CommentFontName = QStringLiteral("MS UI Gothic");
+        record.CommentFontSize = QStringLiteral("9");
+        record.CommentBackColor = QStringLiteral("&H00FF8080&");
+        record.CommentForeColor = QStringLiteral("0");
+    }
+    FormComment& comment()
+    {
+        return *static_cast<FormComment*>(forms.form(QStringLiteral("FormComment")));
+    }
+    FormOmake& omake() { return *static_cast<FormOmake*>(forms.form(QStringLiteral("FormOmake"))); }
+    // The comment on the screen at (1500, 1200) twips, 300 by 90 pixels.
+    FormComment& shownComment()
+    {
+        FormComment& form = comment();
+        form.showForm();
+        form.move(100, 80);
+        form.resize(300, 90);
+        return form;
+    }
+};
+
+// A settings-window stand-in that the popup can open by name.
+FormBase* addFontAndColorWindow(FormRegistry& forms)
+{
+    forms.add(QStringLiteral("FormSetFontAndColor"),
+              []() -> FormBase* { return new FormBase(QStringLiteral("FormSetFontAndColor")); });
+    return forms.form(QStringLiteral("FormSetFontAndColor"));
+}
+
+void sendMouse(QWidget* target, QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons buttons,
+               QPointF at)
+{
+    QMouseEvent event(type, at, target->mapToGlobal(at), button, buttons, Qt::NoModifier);
+    QApplication::sendEvent(target, &event);
+}
+
+void clickLabel(QWidget* label, Qt::MouseButton button, QPointF at)
+{
+    sendMouse(label, QEvent::MouseButtonPress, button, button, at);
+    sendMouse(label, QEvent::MouseButtonRelease, button, Qt::NoButton, at);
+}
+
+// Where a window asked to stand at `twips` ends: on a whole pixel.
+float onPixel(double twips)
+{
+    return pixelsToTwips(twipsToPixels(twips));
+}
+
+} // namespace
+
+class TestFormComment : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { installFontSubstitutes(); }
+    void loadAppliesTheCommentFields_data();
+    void loadAppliesTheCommentFields();
+    void loadWritesTheFieldsBackTrimmed();
+    void resizeCentresTheLabel();
+    void dragByTheLabel_data();
+    void dragByTheLabel();
+    void dragWithTheMouse();
+    void clickHugsTheText();
+    void clickGuardTwoOnlyResets();
+    void rightButtonShowsThePopupAtThePointer();
+    void popupClearsItsOptionsOnLoad();
+    void option1TakesTheCommentAway();
+    void option2OpensTheSettingsBeside_data();
+    void option2OpensTheSettingsBeside();
+};
+
+void TestFormComment::loadAppliesTheCommentFields_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<QString>("back");
+    QTest::addColumn<QString>("fore");
+    QTest::addColumn<QString>("family"); // stored name the label ends with
+    QTest::addColumn<double>("points");
+    QTest::addColumn<int>("backColor"); // -1: never set
+    QTest::addColumn<int>("foreColor");
+    QTest::newRow("defaults of the record") << "MS UI Gothic"
+                                            << "9"
+                                            << "&H00FF8080&"
+                                            << "0"
+                                            << "MS UI Gothic" << 9.0 << 0xFF8080 << 0;
+    QTest::newRow("decimal colours, other font and size") << "IPAGothic"
+                                                          << "14"
+                                                          << "255"
+                                                          << "65280"
+                                                          << "IPAGothic" << 14.0 << 255 << 65280;
+    QTest::newRow("padded fields are trimmed") << "  IPAGothic  "
+                                               << " 12 "
+                                               << " &H808080 "
+                                               << " &HFF "
+                                               << "IPAGothic" << 12.0 << 0x808080 << 255;
+    QTest::newRow("an empty font name leaves the design font")
+        << ""
+        << "11"
+        << "0"
+        << "16777215"
+        << "MS UI Gothic" << 11.0 << 0 << 0xFFFFFF;
+    QTest::newRow("what isn't a number leaves size and colours") << "IPAGothic"
+                                                                 << "big"
+                                                                 << "red"
+                                                                 << ""
+                                                                 << "IPAGothic" << 9.0 << -1 << -1;
+    QTest::newRow("size 0 is refused") << "IPAGothic"
+                                       << "0"
+                                       << "&HFF&"
+                                       << "&H0&"
+                                       << "IPAGothic" << 9.0 << 255 << 0;
+}
+
+void TestFormComment::loadAppliesTheCommentFields()
+{
+    CommentFixture f;
+    DirecDataRecord& record = f.state.DirecData;
+    record.CommentFontName = FETCH(QString, name);
+    record.CommentFontSize = FETCH(QString, size);
+    record.CommentBackColor = FETCH(QString, back);
+    record.CommentForeColor = FETCH(QString, fore);
+    FormComment& form = f.comment();
+    form.ClickGuard = 2;
+    form.load();
+
+    auto* label = form.findChild<QLabel*>("Label1");
+    QVERIFY(label);
+    QCOMPARE(label->font().family(), resolveFontFamily(FETCH(QString, family)));
+    QCOMPARE(label->font().pointSizeF(), FETCH(double, points));
+    QCOMPARE(backColor(&form), FETCH(int, backColor));
+    QCOMPARE(foreColor(label), FETCH(int, foreColor));
+    QCOMPARE(form.ClickGuard, qint16(0));
+    QCOMPARE(twLeft(label), onPixel(100));
+    QCOMPARE(twTop(label), onPixel(100));
+}
+
+void TestFormComment::loadWritesTheFieldsBackTrimmed()
+{
+    CommentFixture f;
+    DirecDataRecord& record = f.state.DirecData;
+    record.CommentFontName.setBytes("  IPAGothic"); // NUL-padded, as a new field is
+    record.CommentFontSize.setBytes("12\r\n");
+    record.CommentBackColor = QStringLiteral("   &HFF&");
+    record.CommentForeColor.setBytes(QByteArray());
+    QSignalSpy front(&f.comment(), &FormComment::cameToFront);
+    f.comment().load();
+    QCOMPARE(record.CommentFontName.bytes(), QByteArray("IPAGothic      "));
+    QCOMPARE(record.CommentFontSize.bytes(), QByteArray("12             "));
+    QCOMPARE(record.CommentBackColor.bytes(), QByteArray("&HFF&          "));
+    QCOMPARE(record.CommentForeColor.bytes(), QByteArray(15, ' '));
+    QCOMPARE(front.count(), 1);
+}
+
+void TestFormComment::resizeCentresTheLabel()
+{
+    CommentFixture f;
+    FormComment& form = f.shownComment();
+    form.setCommentText(QStringLiteral("中央"));
+    for (const QSize size : {QSize(320, 100), QSize(161, 77)}) {
+        form.resize(size);
+        QCOMPARE(twLeft(form.Label1), onPixel((twScaleWidth(&form) - twWidth(form.Label1)) / 2));
+        QCOMPARE(twTop(form.Label1), onPixel((twScaleHeight(&form) - twHeight(form.Label1)) / 2));
+    }
+}
+
+void TestFormComment::dragByTheLabel_data()
+{
+    QTest::addColumn<int>("buttons");
+    QTest::addColumn<float>("x"); // pointer in the label, twips; the drag starts at (150, 150)
+    QTest::addColumn<float>("y");
+    QTest::addColumn<bool>("moves");
+    QTest::addColumn<bool>("front");
+    const int left = Qt::LeftButton;
+    QTest::newRow("no way at all") << left << 150.f << 150.f << false << true;
+    QTest::newRow("10 twips is no drag") << left << 156.f << 158.f << false << true;
+    QTest::newRow("10.5 twips moves") << left << 160.5f << 150.f << true << true;
+    QTest::newRow("right and up") << left << 180.f << 105.f << true << true;
+    QTest::newRow("left and down, far") << left << -600.f << 900.f << true << true;
+    QTest::newRow("right button held is no drag")
+        << int(Qt::RightButton) << 180.f << 105.f << false << false;
+}
+
+void TestFormComment::dragByTheLabel()
+{
+    CommentFixture f;
+    FormComment& form = f.shownComment();
+    const float left = twLeft(&form);
+    const float top = twTop(&form);
+    QSignalSpy front(&form, &FormComment::cameToFront);
+    form.Label1_MouseDown(Qt::LeftButton, 150.4f, 149.6f);
+    QCOMPARE(form.DragStartX, qint16(150));
+    QCOMPARE(form.DragStartY, qint16(150));
+    QVERIFY(form.Dragging);
+    const float x = FETCH(float, x);
+    const float y = FETCH(float, y);
+    form.Label1_MouseMove(Qt::MouseButtons(FETCH(int, buttons)), x, y);
+    if (FETCH(bool, moves)) {
+        QCOMPARE(twLeft(&form), onPixel(left - (150 - x)));
+        QCOMPARE(twTop(&form), onPixel(top - (150 - y)));
+    } else {
+        QCOMPARE(twLeft(&form), left);
+        QCOMPARE(twTop(&form), top);
+    }
+    QCOMPARE(front.count(), FETCH(bool, front) ? 1 : 0);
+}
+
+void TestFormComment::dragWithTheMouse()
+{
+    CommentFixture f;
+    FormComment& form = f.shownComment();
+    const QPoint start = form.pos();
+    sendMouse(form.Label1, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton, {10, 10});
+    // Half a pixel on a scaled screen is 7.5 twips: no drag yet.
+    sendMouse(form.Label1, QEvent::MouseMove, Qt::NoButton, Qt::LeftButton, {10.5, 10});
+    QCOMPARE(form.pos(), start);
+    sendMouse(form.Label1, QEvent::MouseMove, Qt::NoButton, Qt::LeftButton, {14, 7});
+    QCOMPARE(form.pos(), start + QPoint(4, -3));
+    // The label moved with the window; the pointer goes on from there.
+    sendMouse(form.Label1, QEvent::MouseMove, Qt::NoButton, Qt::LeftButton, {15, 10});
+    QCOMPARE(form.pos(), start + QPoint(9, -3));
+}
+
+void TestFormComment::clickHugsTheText()
+{
+    CommentFixture f;
+    FormComment& form = f.shownComment();
+    form.setCommentText(
+        QStringLiteral("この写真は二〇一九年の春、京都の哲学の道で撮ったものです。\n"
+                       "桜が満開でした。"));
+    QVERIFY(twWidth(form.Label1) > twScaleWidth(&form)); // the text runs past the window
+    const float left = twLeft(&form);
+    const float top = twTop(&form);
+    const float frameWidth = twWidth(&form) - twScaleWidth(&form);
+    const float frameHeight = twHeight(&form) - twScaleHeight(&form);
+    clickLabel(form.Label1, Qt::LeftButton, {5, 5});
+    QCOMPARE(twLeft(&form), left);
+    QCOMPARE(twTop(&form), top);
+    QCOMPARE(twWidth(&form), onPixel(twWidth(form.Label1) + frameWidth + 200));
+    QCOMPARE(twHeight(&form), onPixel(twHeight(form.Label1) + frameHeight + 200));
+    // The label stands in the middle, about 100 twips from each side.
+    QVERIFY(qAbs(twLeft(form.Label1) - 100) <= 15);
+    QVERIFY(qAbs(twTop(form.Label1) - 100) <= 15);
+    saveShot(&form, QStringLiteral("FormComment"));
+}
+
+void TestFormComment::clickGuardTwoOnlyResets()
+{
+    CommentFixture f;
+    FormComment& form = f.shownComment();
+    form.setCommentText(QStringLiteral("長いコメントが入りました、長いコメントが入りました"));
+    const QSize before = form.size();
+    form.ClickGuard = 2;
+    clickLabel(form.Label1, Qt::LeftButton, {5, 5});
+    QCOMPARE(form.size(), before);
+    QCOMPARE(form.ClickGuard, qint16(0));
+    clickLabel(form.Label1, Qt::LeftButton, {5, 5}); // the next click hugs again
+    QVERIFY(form.size() != before);
+    form.ClickGuard = 1; // any other value hugs too, and stays
+    form.resize(before);
+    clickLabel(form.Label1, Qt::LeftButton, {5, 5});
+    QVERIFY(form.size() != before);
+    QCOMPARE(form.ClickGuard, qint16(1));
+}
+
+void TestFormComment::rightButtonShowsThePopupAtThePointer()
+{
+    CommentFixture f;
+    FormComment& form = f.shownComment();
+    const QSize before = form.size();
+    QSignalSpy front(&form, &FormComment::cameToFront);
+    clickLabel(form.Label1, Qt::LeftButton, {20, 10}); // the left button shows no popup
+    QVERIFY(!f.forms.existing(QStringLiteral("FormOmake")));
+    QCOMPARE(front.count(), 1);
+    form.resize(before);
+
+    clickLabel(form.Label1, Qt::RightButton, {20, 10});
+    FormOmake& popup = f.omake();
+    QVERIFY(popup.isVisible());
+    QCOMPARE(twLeft(&popup), twLeft(&form) + 300);
+    QCOMPARE(twTop(&popup), twTop(&form) + 150);
+    QCOMPARE(form.size(), before); // a right click doesn't hug
+    QCOMPARE(front.count(), 2);
+    saveShot(&popup, QStringLiteral("FormOmake"));
+}
+
+void TestFormComment::popupClearsItsOptionsOnLoad()
+{
+    CommentFixture f;
+    FormOmake& popup = f.omake();
+    popup.load();
+    popup.Option2->setChecked(true);
+    popup.unload();
+    popup.load();
+    QVERIFY(!popup.Option1->isChecked());
+    QVERIFY(!popup.Option2->isChecked());
+    QCOMPARE(popup.Option1->text(), QStringLiteral("コメント消去"));
+    QCOMPARE(popup.Option2->text(), QStringLiteral("文字、背景色変更"));
+    QVERIFY(popup.findChild<QRadioButton*>("Option3"));
+}
+
+void TestFormComment::option1TakesTheCommentAway()
+{
+    CommentFixture f;
+    FormComment& form = f.shownComment();
+    FormBase* settings = addFontAndColorWindow(f.forms);
+    settings->showForm();
+    clickLabel(form.Label1, Qt::RightButton, {20, 10});
+    QTest::mouseClick(f.omake().findChild<QRadioButton*>("Option1"), Qt::LeftButton);
+    QVERIFY(!form.isLoaded());
+    QVERIFY(!form.isVisible());
+    QVERIFY(!settings->isLoaded());
+    QVERIFY(!settings->isVisible());
+    QVERIFY(!f.omake().isLoaded());
+    QVERIFY(!f.omake().isVisible());
+}
+
+void TestFormComment::option2OpensTheSettingsBeside_data()
+{
+    QTest::addColumn<bool>("known");
+    QTest::newRow("settings window known") << true;
+    QTest::newRow("not yet in the program") << false;
+}
+
+void TestFormComment::option2OpensTheSettingsBeside()
+{
+    CommentFixture f;
+    FormBase* settings = FETCH(bool, known) ? addFontAndColorWindow(f.forms) : nullptr;
+    FormComment& form = f.shownComment();
+    clickLabel(form.Label1, Qt::RightButton, {20, 10});
+    FormOmake& popup = f.omake();
+    const float besideLeft = twLeft(&popup) + twWidth(&popup);
+    const float besideTop = twTop(&popup);
+    QTest::mouseClick(popup.Option2, Qt::LeftButton);
+    QVERIFY(!popup.isVisible());
+    QVERIFY(form.isVisible()); // the comment stays
+    if (!settings) {
+        QVERIFY(!f.forms.existing(QStringLiteral("FormSetFontAndColor")));
+        return;
+    }
+    QVERIFY(settings->isVisible());
+    QCOMPARE(twLeft(settings), besideLeft);
+    QCOMPARE(twTop(settings), besideTop);
+    QCOMPARE(settings->property("mode").toString(), QStringLiteral("COMMENT"));
+}
+
+QTEST_MAIN(TestFormComment)
+#include "tst_FormComment.moc"
