@@ -3,6 +3,9 @@
 
 #include "display/PictureBox.h"
 #include "display/PictureCache.h"
+#include "display/MediaPanel.h"
+#include "display/WebBrowser.h"
+#include "platform/Media.h"
 #include "fileops/VeroProcedure_Basical.h"
 #include "platform/ClickLabel.h"
 #include "platform/Colors.h"
@@ -224,15 +227,20 @@ void FormMain::buildDisplay()
     Text1 = new QPlainTextEdit(Picture1);
     Text1->setObjectName(QStringLiteral("Text1"));
     Text1->hide();
-    WebBrowser1 = new QWidget(Picture1);
-    WebBrowser1->setObjectName(QStringLiteral("WebBrowser1"));
+    Media& media = basics_.services().media;
+    WebBrowser1 = new WebBrowser(QStringLiteral("WebBrowser1"), media.createWebSurface(), Picture1);
     WebBrowser1->hide();
-    MediaPlayer1 = new QWidget(Picture1);
-    MediaPlayer1->setObjectName(QStringLiteral("MediaPlayer1"));
+    MediaPlayer1 = new MediaPanel(QStringLiteral("MediaPlayer1"), media.createEngine(true), Picture1);
     MediaPlayer1->hide();
-    MediaPlayer2 = new QWidget(Picture1);
-    MediaPlayer2->setObjectName(QStringLiteral("MediaPlayer2"));
+    MediaPlayer2 = new MediaPanel(QStringLiteral("MediaPlayer2"), media.createEngine(false), Picture1);
     MediaPlayer2->hide();
+    // The end of a medium only tells Auto Page; it changes no page by itself.
+    for (MediaPanel* panel : {MediaPlayer1, MediaPlayer2})
+        connect(panel, &MediaPanel::ended, this, [this] { state_.MediaEnded = true; });
+    connect(MediaPlayer1, &MediaPanel::videoSizeChanged, this, [this] {
+        if (!MediaPlayer1->isHidden())
+            centreVideo();
+    });
     LabelComment = new ClickLabel(QStringLiteral("LabelComment"), QString(), Picture1);
     LabelComment->hide();
     CommandNoText =

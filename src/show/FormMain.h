@@ -20,7 +20,9 @@ class QPlainTextEdit;
 namespace lumen {
 
 class ClickLabel;
+class MediaPanel;
 class PictureCache;
+class WebBrowser;
 class FormRegistry;
 class PictureBox;
 class VeroProcedure_Basical;
@@ -93,9 +95,9 @@ public:
     PictureBox* Picture2;
     PictureBox* Picture3;
     QPlainTextEdit* Text1;
-    QWidget* WebBrowser1;
-    QWidget* MediaPlayer1;
-    QWidget* MediaPlayer2;
+    WebBrowser* WebBrowser1;
+    MediaPanel* MediaPlayer1;
+    MediaPanel* MediaPlayer2;
     ClickLabel* LabelComment;
     QPushButton* CommandNoText;
     QScrollBar* HScroll1;
@@ -210,6 +212,15 @@ private:
     void setCommentVisible(bool shown);
     void step(int direction);
     void relayoutVideo(bool showIt);
+    void openOnPanel(MediaPanel* panel, const QString& programPath);
+    void setVideoFullScreen(bool on);
+    void closeVideo();
+    void navigateWebAway();
+    void showCdPage(const QString& programPath);
+    void applyTextLook(const QString& name, const QString& size, const QString& ground,
+                       const QString& letters);
+    void centreVideo();
+    void playMovieOverWeb(const QString& programPath);
     void buildFrame1();
     void buildFrame2();
     void buildFrame3();
@@ -225,6 +236,7 @@ private:
     FormRegistry& forms_;
     std::unique_ptr<PictureCache> pictures_;
     AutoStartTable autoStart_;
+    MediaPanel* movie_ = nullptr; // a movie page plays over the web view
     double noTextWait_ = 1000; // the list view's wait; CommandNoText sets it to 0
     bool inResize_ = false;
 };

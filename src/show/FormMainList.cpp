@@ -2,7 +2,9 @@
 // display reset before a page.
 #include "show/FormMain.h"
 
+#include "display/MediaPanel.h"
 #include "display/PictureBox.h"
+#include "display/WebBrowser.h"
 #include "fileops/BasicHost.h"
 #include "fileops/VeroProcedure_Basical.h"
 #include "list/ListLoader.h"
@@ -153,15 +155,24 @@ void FormMain::CleareDisp(QString kind)
         return all || (shownOwn(surface) && kind != QLatin1String(keep));
     };
     if (clear(MediaPlayer1, "MPL")) {
+        MediaPlayer1->Stop();
         MediaPlayer1->hide();
-        twMove(MediaPlayer1, kOutOfSight, kOutOfSight);
+        MediaPlayer1->Move(kOutOfSight, kOutOfSight);
     }
     if (clear(MediaPlayer2, "MIDI")) {
+        MediaPlayer2->Stop();
         MediaPlayer2->hide();
-        twMove(MediaPlayer2, kOutOfSight, kOutOfSight);
+        MediaPlayer2->Move(kOutOfSight, kOutOfSight);
     }
-    if (clear(WebBrowser1, "WEB"))
+    if (clear(WebBrowser1, "WEB")) {
+        WebBrowser1->NavigateAway();
         WebBrowser1->hide();
+    }
+    if (movie_ && !movie_->isHidden()) {
+        movie_->Stop();
+        movie_->hide();
+    }
+    forms_.unload(QStringLiteral("FormCDMusic"));
     if (clear(Text1, "TXT")) {
         Text1->clear();
         Text1->hide();

@@ -1,6 +1,7 @@
 // FormMain: loading the window and closing the program through it.
 #include "show/FormMain.h"
 
+#include "display/MediaPanel.h"
 #include "display/PictureBox.h"
 #include "fileops/BasicHost.h"
 #include "fileops/VeroProcedure_Basical.h"
@@ -99,16 +100,8 @@ void FormMain::applyFonts()
                                  Val(FixedText(record.DispFontSize)));
     for (QLineEdit* box : {TextFileName, TextHeadName, TextNum})
         box->setFont(small);
-    Text1->setFont(fontFrom(Text1->font(), FixedText(record.TextFontName),
-                            Val(FixedText(record.TextFontSize))));
-    // The two colour fields are crossed in the record: the one named for the
-    // letters colours the ground, and the other the letters.
-    const QString ground = FixedText(record.TextFontColor);
-    const QString letters = FixedText(record.TextBackColor);
-    if (!ground.isEmpty())
-        setBackColor(Text1, bgrFromText(ground));
-    if (!letters.isEmpty())
-        setForeColor(Text1, bgrFromText(letters));
+    applyTextLook(FixedText(record.TextFontName), FixedText(record.TextFontSize),
+                  FixedText(record.TextFontColor), FixedText(record.TextBackColor));
 }
 
 void FormMain::saveRecord()

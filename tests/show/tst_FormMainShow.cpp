@@ -1,0 +1,238 @@
+// The show by hand: every kind of page on its surface with its companion and
+// comment, the arrows and the page bar, copy, delete and recover.
+#include "MainFixture.h"
+#include "display/FormComment.h"
+#include "display/MediaPanel.h"
+#include "display/PictureBox.h"
+#include "display/WebBrowser.h"
+#include "platform/Colors.h"
+#include "platform/Controls.h"
+#include "support/FakeMedia.h"
+#include "support/Fetch.h"
+#include "support/Shots.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+
+using namespace lumen;
+using namespace lumen::test;
+
+namespace {
+
+QString visibleSurfaces(FormMain& main)
+{
+    QStringList shown;
+    for (const char* name : {"Picture2", "Picture3", "Text1", "WebBrowser1", "MediaPlayer1", "MediaPlayer2"}) {
+        QWidget* w = main.findChild<QWidget*>(name);
+        if (w && w->isVisible() && w->width() > 0 && w->height() > 0)
+            shown << QString::fromLatin1(name);
+    }
+    return shown.join(QLatin1Char(','));
+}
+
+} // namespace
+
+class TestFormMainShow : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void eachKindOnItsSurface_data();
+    void eachKindOnItsSurface();
+    void companionSoundAndHideBox_data();
+    void companionSoundAndHideBox();
+    void commentWindowTakesTheText_data();
+    void commentWindowTakesTheText();
+    void arrowsStopAtTheEnds();
+    void pageBarShowsPicturesOnly();
+    void copyNumbersTheCopies();
+    void deleteThenRecover();
+    void secondDeleteOverwritesTheUndoRecord();
+    void deleteRefusesManyFileKinds();
+};
+
+void TestFormMainShow::eachKindOnItsSurface_data()
+{
+    QTest::addColumn<QString>("file");      // under home
+    QTest::addColumn<QString>("surfaces");  // visible afterwards
+    QTest::addColumn<QString>("caption");
+    QTest::newRow("picture") << "p.png" << "Picture2" << "";
+    QTest::newRow("text") << "t.txt" << "Text1" << "";
+    QTest::newRow("video") << "v.avi" << "MediaPlayer1" << "";
+    QTest::newRow("midi") << "m.mid" << "Picture2,MediaPlayer2" << "";
+    QTest::newRow("web page") << "w.html" << "WebBrowser1" << "";
+    QTest::newRow("sound") << "s.wav" << "" << "";
+    QTest::newRow("missing file") << "none.jpg" << "" << "File Niot Found C:\\none.jpg";
+}
+
+void TestFormMainShow::eachKindOnItsSurface()
+{
+    MainFixture f;
+    QFETCH(QString, file);
+    if (file == QLatin1String("p.png"))
+        f.picture(file, 60, 40);
+    else if (file != QLatin1String("none.jpg"))
+        f.home.writeFile(file, file.endsWith(QLatin1String(".txt")) ? QByteArray("一行目\r\n二行目") : QByteArray("x"));
+    f.open({QStringLiteral("C:\\") + file});
+    QCOMPARE(visibleSurfaces(f.main), FETCH(QString, surfaces));
+    QCOMPARE(f.main.windowTitle(), FETCH(QString, caption));
+    if (file == QLatin1String("t.txt"))
+        QCOMPARE(f.main.Text1->toPlainText(), QStringLiteral("一行目\n二行目"));
+    if (file == QLatin1String("s.wav"))
+        QCOMPARE(f.media.sounds, QStringList{f.home.native("s.wav")});
+    if (file == QLatin1String("w.html")) {
+        QCOMPARE(f.media.webs.size(), 1);
+        QCOMPARE(f.media.webs[0]->url(), QUrl::fromLocalFile(f.home.native("w.html")));
+        QVERIFY(f.state.WebPageShown);
+    }
+    if (file == QLatin1String("v.avi"))
+        QVERIFY(f.media.engines[0]->calls.contains(QStringLiteral("open ") + f.home.native("v.avi")));
+}
+
+void TestFormMainShow::companionSoundAndHideBox_data()
+{
+    QTest::addColumn<bool>("hide");
+    QTest::addColumn<int>("sounds");
+    QTest::newRow("plays") << false << 1;
+    QTest::newRow("hidden sound") << true << 0;
+}
+
+void TestFormMainShow::companionSoundAndHideBox()
+{
+    MainFixture f;
+    f.home.writeFile("bell.wav", "RIFF");
+    const QString pic = f.picture("p.png", 40, 40);
+    f.main.CheckWaveHide->setChecked(FETCH(bool, hide));
+    f.open({pic + QStringLiteral(" @WITH=C:\\bell.wav ENDWITH")});
+    QCOMPARE(f.media.sounds.size(), FETCH(int, sounds));
+    if (!f.media.sounds.isEmpty())
+        QCOMPARE(f.media.sounds.first(), f.home.native("bell.wav"));
+    QVERIFY(f.main.Picture2->isVisible());
+}
+
+void TestFormMainShow::commentWindowTakesTheText_data()
+{
+    QTest::addColumn<QString>("item");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("inline") << "@COMMENT=<<<<<一行<<<<<二行 ENDCOMMENT" << "一行\r\n二行";
+    QTest::newRow("without the mark loses two characters") << "@COMMENT=abcdef ENDCOMMENT" << "cdef";
+    QTest::newRow("comment file") << "@FILECOMMENT=C:\\note.txt ENDFILECOMMENT" << "ファイルの\r\nコメント";
+}
+
+void TestFormMainShow::commentWindowTakesTheText()
+{
+    MainFixture f;
+    f.home.writeFile("note.txt", QStringLiteral("ファイルの\r\nコメント\r\n").toUtf8());
+    const QString pic = f.picture("p.png", 40, 40);
+    f.open({pic + QLatin1Char(' ') + FETCH(QString, item)});
+    auto* comment = static_cast<FormComment*>(f.forms.existing(QStringLiteral("FormComment")));
+    QVERIFY(comment);
+    QVERIFY(comment->isVisible());
+    QCOMPARE(comment->commentText(), FETCH(QString, text));
+    saveShot(comment, QStringLiteral("FormComment_on_page"));
+}
+
+void TestFormMainShow::arrowsStopAtTheEnds()
+{
+    MainFixture f;
+    f.open({f.picture("a.png", 30, 30), f.picture("b.png", 30, 30)});
+    QTest::mouseClick(f.main.CommandRight, Qt::LeftButton);
+    QCOMPARE(f.state.PicNo, qint16(2));
+    QCOMPARE(f.main.TextCount->text(), QStringLiteral("2"));
+    QCOMPARE(f.main.HScrollPicNom->value(), 2);
+    QTest::mouseClick(f.main.CommandRight, Qt::LeftButton);
+    QCOMPARE(f.state.PicNo, qint16(2)); // stays on the last page
+    QCOMPARE(backColor(f.main.LabelMax), kColorRed);
+    QTest::mouseClick(f.main.CommandLeft, Qt::LeftButton);
+    QCOMPARE(backColor(f.main.LabelMax), kColorGrey);
+    QTest::mouseClick(f.main.CommandLeft, Qt::LeftButton);
+    QCOMPARE(f.state.PicNo, qint16(1));
+    QCOMPARE(backColor(f.main.LabelSmall), kColorRed);
+    QCOMPARE(f.main.TextFileName->text(), QStringLiteral("C:\\a.png"));
+}
+
+void TestFormMainShow::pageBarShowsPicturesOnly()
+{
+    MainFixture f;
+    f.home.writeFile("t.txt", "text");
+    f.open({f.picture("a.png", 30, 30), QStringLiteral("C:\\t.txt"), f.picture("c.png", 200, 100)});
+    f.main.HScrollPicNom->setValue(3);
+    QCOMPARE(f.state.PicNo, qint16(3));
+    QCOMPARE(f.main.TextFileName->text(), QStringLiteral("C:\\c.png"));
+    QCOMPARE(f.main.Picture2->pictureSize(), QSize(200, 100));
+    f.main.HScrollPicNom->setValue(2); // a text page isn't played from the bar
+    QCOMPARE(f.main.TextFileName->text(), QStringLiteral("C:\\t.txt"));
+    QVERIFY(!f.main.Text1->isVisible());
+    QTest::mouseClick(f.main.LabelDo, Qt::LeftButton); // LabelDo plays it
+    QVERIFY(f.main.Text1->isVisible());
+}
+
+void TestFormMainShow::copyNumbersTheCopies()
+{
+    MainFixture f;
+    f.open({f.picture("shots/a.png", 30, 30)});
+    QTest::mouseClick(f.main.CommandCopy, Qt::LeftButton);
+    QTest::mouseClick(f.main.CommandCopy, Qt::LeftButton);
+    QVERIFY(f.home.exists("Lumentas/MyPicture_001.png"));
+    QVERIFY(f.home.exists("Lumentas/MyPicture_002.png"));
+    QCOMPARE(f.main.TextNum->text(), QStringLiteral("003"));
+    f.main.TextNum->clear();
+    QTest::mouseClick(f.main.CommandCopy, Qt::LeftButton);
+    QVERIFY(f.home.exists("Lumentas/MyPicture.png"));
+    QCOMPARE(f.ui.beeps, 3);
+    QCOMPARE(backColor(f.main.CommandCopy), kColorGrey);
+    f.main.TextHeadName->setText(QStringLiteral("Trip"));
+    QCOMPARE(f.main.TextNum->text(), QStringLiteral("001"));
+}
+
+void TestFormMainShow::deleteThenRecover()
+{
+    MainFixture f;
+    f.open({f.picture("a.png", 30, 30), f.picture("b.png", 30, 30)});
+    const QByteArray original = f.home.readFile("a.png");
+    QTest::mouseClick(f.main.CommandDeleate, Qt::LeftButton);
+    QVERIFY(!f.home.exists("a.png"));
+    QCOMPARE(f.home.readFile("Lumentas/ForProgramRun_KDR/DelTempF.png"), original);
+    QCOMPARE(f.home.readFile("Lumentas/ForProgramRun_KDR/DelTempFName.txt"),
+             QByteArray("C:\\Lumentas\\ForProgramRun_KDR\\DelTempF.png,C:\\a.png\r\n"));
+    QVERIFY(!f.main.Picture2->hasPicture());
+
+    QTest::mouseClick(f.main.CommandRecov, Qt::LeftButton);
+    QCOMPARE(f.home.readFile("a.png"), original);
+    QVERIFY(!f.home.exists("Lumentas/ForProgramRun_KDR/DelTempF.png"));
+    QVERIFY(!f.home.exists("Lumentas/ForProgramRun_KDR/DelTempFName.txt"));
+    QVERIFY(f.main.Picture2->hasPicture()); // shown again
+    QTest::mouseClick(f.main.CommandRecov, Qt::LeftButton); // only once
+    QCOMPARE(f.ui.beeps, 2);
+}
+
+void TestFormMainShow::secondDeleteOverwritesTheUndoRecord()
+{
+    MainFixture f;
+    f.open({f.picture("a.png", 30, 30), f.picture("b.jpg", 30, 30)});
+    QTest::mouseClick(f.main.CommandDeleate, Qt::LeftButton);
+    QTest::mouseClick(f.main.CommandRight, Qt::LeftButton);
+    QTest::mouseClick(f.main.CommandDeleate, Qt::LeftButton);
+    QCOMPARE(f.home.readFile("Lumentas/ForProgramRun_KDR/DelTempFName.txt"),
+             QByteArray("C:\\Lumentas\\ForProgramRun_KDR\\DelTempF.jpg,C:\\b.jpg\r\n"));
+    QTest::mouseClick(f.main.CommandRecov, Qt::LeftButton);
+    QVERIFY(f.home.exists("b.jpg"));
+    QVERIFY(!f.home.exists("a.png"));
+}
+
+void TestFormMainShow::deleteRefusesManyFileKinds()
+{
+    MainFixture f;
+    f.home.writeFile("world.wrl", "#VRML");
+    f.open({QStringLiteral("C:\\world.wrl")});
+    QTest::mouseClick(f.main.CommandDeleate, Qt::LeftButton);
+    QVERIFY(f.home.exists("world.wrl"));
+    QCOMPARE(f.ui.boxes.last(),
+             QStringLiteral("複数のﾌｧｲﾙを含むため消去はしません。別の方法で削除してください"));
+}
+
+QTEST_MAIN(TestFormMainShow)
+#include "tst_FormMainShow.moc"
