@@ -1,9 +1,10 @@
 // lumenta: a picture show driven by list files.
+#include "display/LinuxCdDrive.h"
+#include "display/QtMedia.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
 #include "platform/Fonts.h"
 #include "platform/Launcher.h"
-#include "platform/Media.h"
 #include "platform/QtUserDialogs.h"
 #include "show/FormMain.h"
 #include "start/Lumenta.h"
@@ -13,21 +14,6 @@
 #include <QDir>
 #include <QStyleFactory>
 
-#include <cstdlib>
-
-namespace {
-
-// Until the media layer joins: nothing plays.
-class NoMediaYet : public lumen::Media {
-public:
-    void playSound(const QString&) override {}
-    std::unique_ptr<lumen::MediaEngine> createEngine(bool) override { return nullptr; }
-    std::unique_ptr<lumen::WebSurface> createWebSurface() override { return nullptr; }
-    lumen::CdDrive& cd() override { std::abort(); }
-};
-
-} // namespace
-
 int main(int argc, char** argv)
 {
     // Window placement and the always-on-top navigator need an X11 display;
@@ -35,6 +21,8 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "xcb");
 
+    // The web view draws with OpenGL contexts shared with the windows'.
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("lumenta"));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
@@ -45,8 +33,9 @@ int main(int argc, char** argv)
     lumen::FileSystem fs(lumen::DriveMap(QDir::homePath()), QStringLiteral("C:\\"));
     fs.chDir(fs.toProgram(QDir::currentPath()));
     fs.loadDrivesFile(QDir::home().filePath(QStringLiteral("Lumentas/ForProgramRun_KDR")));
+    fs.setCdTrackCounter(&lumen::LinuxCdDrive::tocTrackCount);
     lumen::ProcessLauncher launcher(fs);
-    NoMediaYet media;
+    lumen::QtMedia media([&dialogs] { dialogs.beep(); });
     const lumen::Services services{clock, dialogs, launcher, fs, media};
 
     QStringList arguments = QApplication::arguments();

@@ -141,6 +141,32 @@ QStringList matchingFiles(const QString& folder, const QString& pattern)
     return sortedForListing(names);
 }
 
+// Names of `tracks` that match the pattern.
+QStringList matchingNames(const QStringList& tracks, const QString& pattern)
+{
+    const QRegularExpression match = wildcardPattern(pattern);
+    QStringList names;
+    for (const QString& name : tracks) {
+        if (match.match(name).hasMatch())
+            names.append(name);
+    }
+    return names;
+}
+
+// The files of a listing and the CD tracks that no file of it names already.
+QStringList withTracks(QStringList files, const QStringList& tracks)
+{
+    for (const QString& track : tracks) {
+        if (!files.contains(track, Qt::CaseInsensitive))
+            files.append(track);
+    }
+    return sortedForListing(files);
+}
+
+// The size of a track file on a Windows audio CD.
+constexpr qint64 kCdTrackFileLength = 44;
+constexpr int kMaxCdTracks = 99;
+
 bool isNormalFile(const QString& native)
 {
     const QFileInfo info(native);
@@ -316,7 +342,8 @@ QString FileSystem::dir(const QString& pathOrPattern) const
     qsizetype cut = text.lastIndexOf(kSeparator) + 1;
     if (cut == 0 && isDriveSpec(text))
         cut = 2;
-    const QString folder = toNative(cut == 0 ? current_ : text.left(cut));
+    const auto folderPath = absolute(cut == 0 ? current_ : text.left(cut));
+    const QString folder = folderPath ? nativeOf(resolved(*folderPath)) : QString();
     const QString word = chopTrailing(text.mid(cut), u" ");
     if (folder.isEmpty() || word == u"." || word == u"..")
         return QString();
@@ -327,15 +354,43 @@ QString FileSystem::dir(const QString& pathOrPattern) const
     const QString literal = findEntry(folder, name);
     if (!literal.isEmpty() && isNormalFile(joinNative(folder, literal)))
         return literal;
+    const QStringList tracks = cdTracksIn(*folderPath);
+    for (const QString& track : tracks) {
+        if (track.compare(name, Qt::CaseInsensitive) == 0)
+            return track;
+    }
     if (!hasWildcards(name))
         return QString();
-    return matchingFiles(folder, name).value(0);
+    return withTracks(matchingFiles(folder, name), matchingNames(tracks, name)).value(0);
+}
+
+QStringList FileSystem::cdTracksIn(const Parts& folder) const
+{
+    if (!folder.names.isEmpty() || !cdTrackCounter_)
+        return {};
+    const QString device = drives_.drive(folder.drive).cdDevice;
+    if (device.isEmpty())
+        return {};
+    const int count = std::min(cdTrackCounter_(device), kMaxCdTracks);
+    QStringList names;
+    for (int track = 1; track <= count; ++track)
+        names.append(QStringLiteral("Track%1.cda").arg(track, 2, 10, QLatin1Char('0')));
+    return names;
+}
+
+bool FileSystem::isCdTrack(const QString& programPath) const
+{
+    const auto path = absolute(programPath);
+    if (!path || path->names.size() != 1)
+        return false;
+    const QStringList tracks = cdTracksIn(Parts{path->drive, {}});
+    return tracks.contains(path->names.first(), Qt::CaseInsensitive);
 }
 
 bool FileSystem::isFile(const QString& programPath) const
 {
     const QString native = toNative(programPath);
-    return !native.isEmpty() && isNormalFile(native);
+    return !native.isEmpty() && (isNormalFile(native) || isCdTrack(programPath));
 }
 
 bool FileSystem::isFolder(const QString& programPath) const
@@ -354,15 +409,22 @@ qint64 FileSystem::fileLength(const QString& programPath) const
 {
     const QString native = toNative(programPath);
     const QFileInfo info(native);
-    return !native.isEmpty() && info.isFile() ? info.size() : -1;
+    if (!native.isEmpty() && info.isFile())
+        return info.size();
+    return isCdTrack(programPath) ? kCdTrackFileLength : -1;
 }
 
 QStringList FileSystem::files(const QString& programFolder, const QString& pattern) const
 {
-    const QString folder = toNative(programFolder);
+    const auto folderPath = absolute(programFolder);
+    const QString folder = folderPath ? nativeOf(resolved(*folderPath)) : QString();
     if (folder.isEmpty())
         return {};
-    return matchingFiles(folder, pattern.isEmpty() ? QStringLiteral("*") : pattern);
+    const QString wanted = pattern.isEmpty() ? QStringLiteral("*") : pattern;
+    const QStringList tracks = matchingNames(cdTracksIn(*folderPath), wanted);
+    if (tracks.isEmpty())
+        return matchingFiles(folder, wanted);
+    return withTracks(matchingFiles(folder, wanted), tracks);
 }
 
 QStringList FileSystem::folders(const QString& programFolder) const
@@ -383,7 +445,8 @@ FileSystem::FolderListing FileSystem::listFolder(const QString& programFolder,
                                                  const QStringList& patterns) const
 {
     FolderListing listing;
-    const QString folder = toNative(programFolder);
+    const auto folderPath = absolute(programFolder);
+    const QString folder = folderPath ? nativeOf(resolved(*folderPath)) : QString();
     if (folder.isEmpty())
         return listing;
     QList<QRegularExpression> matches;
@@ -406,7 +469,9 @@ FileSystem::FolderListing FileSystem::listFolder(const QString& programFolder,
         else if (matchesAny(name))
             listing.files.append(name);
     }
-    listing.files = sortedForListing(listing.files);
+    QStringList tracks = cdTracksIn(*folderPath);
+    tracks.removeIf([&matchesAny](const QString& track) { return !matchesAny(track); });
+    listing.files = withTracks(listing.files, tracks);
     listing.folders = sortedForListing(listing.folders);
     listing.linkedFolders = sortedForListing(listing.linkedFolders);
     return listing;
@@ -476,7 +541,7 @@ int FileSystem::attributes(const QString& programPath) const
     const QString native = toNative(programPath);
     const QFileInfo info(native);
     if (native.isEmpty() || !existsOrLink(native))
-        return -1;
+        return isCdTrack(programPath) ? 1 : -1;
     int value = 0;
     if (info.exists() && !(info.permissions() & QFileDevice::WriteOwner))
         value += 1;

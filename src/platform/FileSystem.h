@@ -14,7 +14,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 namespace lumen {
 
@@ -26,6 +28,16 @@ public:
 
     DriveMap& drives() { return drives_; }
     const DriveMap& drives() const { return drives_; }
+
+    // Audio CDs: at the root of a drive whose Drives.txt line names a CD
+    // device, "TrackNN.cda" (NN two digits, from 01) is a file for each track
+    // of the disc in the device, as the CD file system of Windows showed
+    // them. The counter reads the disc (0 without one); without a counter no
+    // track is there. `dir`, `isFile`, `fileLength` (44 bytes, the size of a
+    // Windows track file), `attributes` (read-only), `files` and
+    // `listFolder` know them; nothing can be opened, copied or changed.
+    using CdTrackCounter = std::function<int(const QString& device)>;
+    void setCdTrackCounter(CdTrackCounter counter) { cdTrackCounter_ = std::move(counter); }
 
     // Reads Drives.txt in the given native folder, writing its default first
     // when it is missing. The drive map is built anew from the home folder
@@ -108,8 +120,11 @@ private:
     Parts resolved(const Parts& path) const; // names as found on disk
     QString nativeOf(const Parts& path) const;
     bool isGuarded(const QString& nativeFolder) const;
+    QStringList cdTracksIn(const Parts& folder) const; // "Track01.cda", ...
+    bool isCdTrack(const QString& programPath) const;
 
     DriveMap drives_;
+    CdTrackCounter cdTrackCounter_;
     QString current_;
     QStringList protected_;
 };

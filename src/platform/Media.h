@@ -33,10 +33,17 @@ public:
     virtual QWidget* videoSurface() = 0;
     virtual void setFullScreen(bool on) = 0;
     virtual bool isPlaying() const = 0;
+    // Where the medium stands and how long it is, in milliseconds (0 while
+    // unknown), for the panel's position bar.
+    virtual qint64 position() const { return 0; }
+    virtual qint64 duration() const { return 0; }
+    virtual void setPosition(qint64 milliseconds) { Q_UNUSED(milliseconds); }
 
 Q_SIGNALS:
     void ended();                 // end of medium, or a failure
     void videoSizeChanged(QSize); // the video's own size became known
+    void positionChanged(qint64 milliseconds);
+    void durationChanged(qint64 milliseconds);
 };
 
 // The web view of web and HTML pages.
@@ -59,9 +66,10 @@ Q_SIGNALS:
 class CdDrive {
 public:
     virtual ~CdDrive() = default;
-    virtual int trackCount(const QString& device) = 0; // 0 without a disc
-    virtual void play(const QString& device, int track) = 0;
+    virtual int trackCount(const QString& device) = 0;       // 0 without a disc
+    virtual void play(const QString& device, int track) = 0; // from the track's start
     virtual void pause() = 0;
+    virtual void resume() = 0; // after a pause, from where it stopped
     virtual void stop() = 0;
     virtual int currentTrack() const = 0; // 0 when nothing is loaded
 };

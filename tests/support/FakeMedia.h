@@ -44,7 +44,7 @@ class FakeWebSurface : public WebSurface {
 public:
     FakeWebSurface();
     ~FakeWebSurface() override;
-    QList<QUrl> urls; // every navigation, "about:blank" for navigateAway
+    QList<QUrl> urls;  // every navigation, "about:blank" for navigateAway
     QStringList moves; // "back", "forward"
     QWidget* widget() override { return widget_; }
     void navigate(const QUrl& url) override;
@@ -65,6 +65,7 @@ public:
     int trackCount(const QString&) override { return tracks; }
     void play(const QString& device, int t) override;
     void pause() override { calls << QStringLiteral("pause"); }
+    void resume() override { calls << QStringLiteral("resume"); }
     void stop() override { calls << QStringLiteral("stop"); }
     int currentTrack() const override { return track; }
 };

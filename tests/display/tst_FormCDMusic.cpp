@@ -1,0 +1,287 @@
+// FormCDMusic and its MCI control on a recording CD drive: opening a disc
+// from a track file, stepping to a typed track, the fixed window size, the
+// track number of a file name.
+#include "display/FormCDMusic.h"
+#include "display/MMControl.h"
+#include "platform/Colors.h"
+#include "platform/Controls.h"
+#include "support/BasicsFixture.h"
+#include "support/Fetch.h"
+#include "support/Shots.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QToolButton>
+
+using namespace lumen;
+using namespace lumen::test;
+
+namespace {
+
+// A fixture with drive D: a CD drive (/dev/sr0) holding a disc of `tracks`.
+struct CdFixture : BasicsFixture {
+    explicit CdFixture(int tracks)
+    {
+        media.drive.tracks = tracks;
+        home.makeFolder(QStringLiteral("cdrom"));
+        home.fs.drives().setDrive(
+            u'D', Drive{home.native(QStringLiteral("cdrom")), QStringLiteral("/dev/sr0")});
+    }
+};
+
+} // namespace
+
+class TestFormCDMusic : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void controlsAndCaptions();
+    void getTrackFromName_data();
+    void getTrackFromName();
+    void showCDMusicOpensTheDisc_data();
+    void showCDMusicOpensTheDisc();
+    void typingTheCurrentTrackPlaysWithoutStepping();
+    void setTrackStepsToTheTypedTrack_data();
+    void setTrackStepsToTheTypedTrack();
+    void trackPastTheEndStepsUntilClosed_data();
+    void trackPastTheEndStepsUntilClosed();
+    void transportButtons();
+    void pauseAndPlayGoOn();
+    void resizeAlwaysEndsAtTheFixedSize();
+    void unloadStopsTheDisc();
+};
+
+void TestFormCDMusic::controlsAndCaptions()
+{
+    CdFixture f(5);
+    FormCDMusic form(f.basics);
+    QCOMPARE(form.windowTitle(), QStringLiteral("CD ミュージック"));
+    QCOMPARE(form.findChild<QCheckBox*>("CheckOneMusic")->text(), QStringLiteral("一曲停止"));
+    QCOMPARE(form.findChild<QPushButton*>("CommandSetTrack")->text(),
+             QStringLiteral("トラック指定"));
+    QCOMPARE(form.findChild<QLineEdit*>("TextMyTrack")->text(), QStringLiteral("1"));
+    QCOMPARE(form.findChild<QLineEdit*>("TextTotalTrack")->text(), QStringLiteral("0"));
+    QCOMPARE(form.findChild<QLabel*>("Label2")->text(), QStringLiteral("/"));
+    QVERIFY(form.findChild<MMControl*>("MMControl1"));
+    // Nothing is open: the buttons wait.
+    QVERIFY(!form.MMControl1->findChild<QToolButton*>("Play")->isEnabled());
+}
+
+void TestFormCDMusic::getTrackFromName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("track");
+    QTest::newRow("capitals") << "D:\\TRACK03.CDA" << 3;
+    QTest::newRow("two digits") << "TRACK12.CDA" << 12;
+    QTest::newRow("one digit") << "E:\\music\\TRACK7.CDA" << 7;
+    QTest::newRow("as Windows lists it: no TRACK in capitals") << "D:\\Track03.cda" << 0;
+    QTest::newRow("lower case") << "track03.cda" << 0;
+    QTest::newRow("TRACK but lower-case extension") << "TRACK3.cda" << 0;
+    QTest::newRow("mixed Track, capital extension") << "Track3.CDA" << 0;
+    QTest::newRow("no TRACK") << "D:\\song.wav" << 0;
+    QTest::newRow("first TRACK wins") << "C:\\TRACKS\\TRACK03.CDA" << 0;
+    QTest::newRow("blank before the number") << "TRACK 4.CDA" << 4;
+    QTest::newRow("half rounds to even, down") << "TRACK2.5.CDA" << 2;
+    QTest::newRow("half rounds to even, up") << "TRACK3.5.CDA" << 4;
+}
+
+void TestFormCDMusic::getTrackFromName()
+{
+    QFETCH(QString, name);
+    QFETCH(int, track);
+    qint16 result = -1;
+    FormCDMusic::GetTrackFromName(name, result);
+    QCOMPARE(int(result), track);
+}
+
+void TestFormCDMusic::showCDMusicOpensTheDisc_data()
+{
+    QTest::addColumn<int>("tracks");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("total");
+    QTest::addColumn<int>("track");
+    QTest::newRow("a five-track disc") << 5 << "D:\\Track03.cda"
+                                       << "5" << 3;
+    QTest::newRow("the name in any case") << 5 << "d:\\TRACK05.CDA"
+                                          << "5" << 5;
+    QTest::newRow("a track past the end opens at the first") << 5 << "D:\\Track09.cda"
+                                                             << "5" << 1;
+    QTest::newRow("no disc in the drive") << 0 << "D:\\Track01.cda"
+                                          << "0" << 0;
+    QTest::newRow("a drive without a CD device") << 5 << "C:\\Track03.cda"
+                                                 << "0" << 0;
+}
+
+void TestFormCDMusic::showCDMusicOpensTheDisc()
+{
+    CdFixture f(FETCH(int, tracks));
+    FormCDMusic form(f.basics);
+    QFETCH(QString, file);
+    form.ShowCDMusic(file);
+    QVERIFY(form.isVisible());
+    QCOMPARE(form.TextTotalTrack->text(), FETCH(QString, total));
+    QCOMPARE(int(form.MMControl1->Track()), FETCH(int, track));
+    QCOMPARE(form.MMControl1->DeviceType(), QStringLiteral("CDAudio"));
+    QCOMPARE(form.MMControl1->FileName(), file);
+    QCOMPARE(form.MMControl1->Command(), QStringLiteral("Open"));
+    QVERIFY(!form.MMControl1->Notify());
+    QVERIFY(form.MMControl1->Wait());
+    QVERIFY(!form.MMControl1->Shareable());
+    QCOMPARE(f.media.drive.calls, QStringList()); // opened, not played
+}
+
+void TestFormCDMusic::typingTheCurrentTrackPlaysWithoutStepping()
+{
+    CdFixture f(5);
+    FormCDMusic form(f.basics);
+    form.ShowCDMusic(QStringLiteral("D:\\Track03.cda"));
+    form.TextMyTrack->setText(QStringLiteral("3"));
+    QTest::mouseClick(form.CommandSetTrack, Qt::LeftButton);
+    QCOMPARE(f.media.drive.calls, (QStringList{"stop", "play /dev/sr0 3"}));
+    QCOMPARE(f.clock.waits, QList<qint64>());
+    QCOMPARE(form.CurrentCDTrack, qint16(3));
+    QCOMPARE(backColor(form.CommandSetTrack), kColorButtonFace);
+}
+
+void TestFormCDMusic::setTrackStepsToTheTypedTrack_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("track");
+    QTest::addColumn<int>("steps");
+    QTest::newRow("forward") << "5" << 5 << 2;
+    QTest::newRow("back") << "1" << 1 << 2;
+    QTest::newRow("one back") << "2" << 2 << 1;
+    QTest::newRow("blanks around") << "  4 " << 4 << 1;
+    QTest::newRow("a fraction rounds") << "1.6" << 2 << 1;
+}
+
+void TestFormCDMusic::setTrackStepsToTheTypedTrack()
+{
+    CdFixture f(5);
+    FormCDMusic form(f.basics);
+    form.ShowCDMusic(QStringLiteral("D:\\Track03.cda"));
+    form.TextMyTrack->setText(FETCH(QString, typed));
+    QList<qint32> colours;
+    f.clock.onWait = [&](qint64) { colours << backColor(form.CommandSetTrack); };
+    form.CommandSetTrack->click();
+    QFETCH(int, track);
+    QFETCH(int, steps);
+    QCOMPARE(f.clock.waits, QList<qint64>(steps, 300));
+    QCOMPARE(colours, QList<qint32>(steps, kColorGreen));
+    QCOMPARE(f.media.drive.calls.last(), QStringLiteral("play /dev/sr0 %1").arg(track));
+    QCOMPARE(form.CurrentCDTrack, qint16(track));
+    QCOMPARE(int(form.MMControl1->Track()), track);
+    QCOMPARE(backColor(form.CommandSetTrack), kColorButtonFace);
+}
+
+void TestFormCDMusic::trackPastTheEndStepsUntilClosed_data()
+{
+    QTest::addColumn<bool>("ending");
+    QTest::newRow("the window is closed") << false;
+    QTest::newRow("the program ends") << true;
+}
+
+void TestFormCDMusic::trackPastTheEndStepsUntilClosed()
+{
+    QFETCH(bool, ending);
+    CdFixture f(5);
+    FormCDMusic form(f.basics);
+    form.ShowCDMusic(QStringLiteral("D:\\Track04.cda"));
+    form.TextMyTrack->setText(QStringLiteral("9"));
+    f.clock.onWait = [&](qint64) {
+        if (f.clock.waits.size() < 6)
+            return;
+        if (ending)
+            f.clock.setEnding(true);
+        else
+            form.close(); // the frame's close box
+    };
+    form.CommandSetTrack->click();
+    QCOMPARE(f.clock.waits.size(), 6);
+    QCOMPARE(int(form.MMControl1->Track()), 5); // stepped on at the last track
+    QVERIFY(!f.media.drive.calls.contains(QStringLiteral("play /dev/sr0 5")));
+    QCOMPARE(form.CurrentCDTrack, qint16(0));
+    QCOMPARE(form.isLoaded(), ending);
+}
+
+void TestFormCDMusic::transportButtons()
+{
+    CdFixture f(5);
+    FormCDMusic form(f.basics);
+    form.ShowCDMusic(QStringLiteral("D:\\Track02.cda"));
+    auto button = [&](const char* name) {
+        return form.MMControl1->findChild<QToolButton*>(QString::fromLatin1(name));
+    };
+    QVERIFY(button("Play")->isEnabled());
+    QTest::mouseClick(button("Next"), Qt::LeftButton);
+    QCOMPARE(int(form.MMControl1->Track()), 3);
+    QTest::mouseClick(button("Prev"), Qt::LeftButton); // to the start of 3
+    QCOMPARE(int(form.MMControl1->Track()), 3);
+    QTest::mouseClick(button("Prev"), Qt::LeftButton); // again, soon after: to 2
+    QCOMPARE(int(form.MMControl1->Track()), 2);
+    f.clock.now += 3000;
+    QTest::mouseClick(button("Prev"), Qt::LeftButton); // three seconds later: start of 2
+    QCOMPARE(int(form.MMControl1->Track()), 2);
+    QTest::mouseClick(button("Play"), Qt::LeftButton);
+    QTest::mouseClick(button("Next"), Qt::LeftButton); // playing on at the next track
+    QCOMPARE(f.media.drive.calls, (QStringList{"play /dev/sr0 2", "play /dev/sr0 3"}));
+    form.show();
+    saveShot(&form, QStringLiteral("FormCDMusic"));
+}
+
+void TestFormCDMusic::pauseAndPlayGoOn()
+{
+    CdFixture f(5);
+    FormCDMusic form(f.basics);
+    form.ShowCDMusic(QStringLiteral("D:\\Track02.cda"));
+    MMControl* mci = form.MMControl1;
+    mci->setCommand(QStringLiteral("Play"));
+    mci->setCommand(QStringLiteral("Pause"));
+    mci->setCommand(QStringLiteral("Play"));
+    mci->setCommand(QStringLiteral("Pause"));
+    mci->setCommand(QStringLiteral("Next"));
+    mci->setCommand(QStringLiteral("Play"));
+    QCOMPARE(f.media.drive.calls,
+             (QStringList{"play /dev/sr0 2", "pause", "resume", "pause", "play /dev/sr0 3"}));
+    QVERIFY(mci->isPlaying());
+}
+
+void TestFormCDMusic::resizeAlwaysEndsAtTheFixedSize()
+{
+    CdFixture f(5);
+    FormCDMusic form(f.basics);
+    form.showForm();
+    const auto fixed = [&] {
+        return twLeft(&form) == 0 && twTop(&form) == 0 && twWidth(&form) == 3645 &&
+               twHeight(&form) == 1260;
+    };
+    QTRY_VERIFY(fixed());
+    form.setGeometry(200, 100, 600, 400);
+    QTRY_VERIFY(fixed());
+    form.showMaximized();
+    QTRY_VERIFY(fixed());
+    QVERIFY(!(form.windowState() & Qt::WindowMaximized));
+    QTest::qWait(100); // the window system's answer to the normal state comes later
+    form.showMinimized();
+    QTest::qWait(100);
+    QVERIFY(form.windowState() & Qt::WindowMinimized);
+    form.showNormal();
+    QTRY_VERIFY(fixed());
+}
+
+void TestFormCDMusic::unloadStopsTheDisc()
+{
+    CdFixture f(5);
+    FormCDMusic form(f.basics);
+    form.ShowCDMusic(QStringLiteral("D:\\Track03.cda"));
+    form.MMControl1->setCommand(QStringLiteral("Play"));
+    QVERIFY(form.unload());
+    QCOMPARE(f.media.drive.calls, (QStringList{"play /dev/sr0 3", "stop"}));
+    QCOMPARE(form.MMControl1->Command(), QStringLiteral("Stop"));
+    QVERIFY(!form.isVisible());
+}
+
+QTEST_MAIN(TestFormCDMusic)
+#include "tst_FormCDMusic.moc"

@@ -1,0 +1,65 @@
+// The Linux CD drive: the address of a track for GStreamer's CD source and
+// the track count of things that hold no disc.
+#include "display/LinuxCdDrive.h"
+#include "support/Fetch.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace lumen;
+
+class TestLinuxCdDrive : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void trackUrl_data();
+    void trackUrl();
+    void noDiscCountsNoTracks_data();
+    void noDiscCountsNoTracks();
+};
+
+void TestLinuxCdDrive::trackUrl_data()
+{
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<int>("track");
+    QTest::addColumn<QByteArray>("url");
+    QTest::newRow("first drive") << "/dev/sr0" << 3 << QByteArray("cdda:///dev/sr0#3");
+    QTest::newRow("two digits") << "/dev/cdrom" << 12 << QByteArray("cdda:///dev/cdrom#12");
+    QTest::newRow("a blank in the name")
+        << "/dev/disk/by-id/my cd" << 1 << QByteArray("cdda:///dev/disk/by-id/my%20cd#1");
+}
+
+void TestLinuxCdDrive::trackUrl()
+{
+    const QUrl url = LinuxCdDrive::trackUrl(FETCH(QString, device), FETCH(int, track));
+    QCOMPARE(url.toEncoded(), FETCH(QByteArray, url));
+    QCOMPARE(url.scheme(), QStringLiteral("cdda"));
+    QCOMPARE(url.path(), FETCH(QString, device));
+    QCOMPARE(url.fragment(), QString::number(FETCH(int, track)));
+}
+
+void TestLinuxCdDrive::noDiscCountsNoTracks_data()
+{
+    QTest::addColumn<QString>("device");
+    QTest::newRow("no name") << "";
+    QTest::newRow("missing device") << "/dev/no-such-cd-drive";
+    QTest::newRow("a character device that isn't a drive") << "/dev/null";
+    QTest::newRow("a plain file") << "plain";
+    QTest::newRow("a folder") << "/tmp";
+}
+
+void TestLinuxCdDrive::noDiscCountsNoTracks()
+{
+    QTemporaryDir dir;
+    QFile plain(dir.filePath(QStringLiteral("plain")));
+    QVERIFY(plain.open(QIODevice::WriteOnly));
+    plain.write(QByteArray(4096, '\0'));
+    plain.close();
+    QString device = FETCH(QString, device);
+    if (device == u"plain")
+        device = plain.fileName();
+    QCOMPARE(LinuxCdDrive::tocTrackCount(device), 0);
+}
+
+QTEST_GUILESS_MAIN(TestLinuxCdDrive)
+#include "tst_LinuxCdDrive.moc"
