@@ -5,6 +5,7 @@
 #include "display/PictureBox.h"
 #include "display/PictureCache.h"
 #include "list/CommandWords.h"
+#include "platform/FormRegistry.h"
 #include "show/FormMain.h"
 #include "support/BasicsFixture.h"
 

@@ -11,9 +11,11 @@
 #include "platform/Colors.h"
 #include "platform/Controls.h"
 #include "platform/FormRegistry.h"
+#include "platform/Twips.h"
 #include "state/ProgramState.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -22,6 +24,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace lumen {
@@ -247,9 +250,11 @@ void FormMain::buildDisplay()
         button(QStringLiteral("CommandNoText"), QStringLiteral("ﾘｽﾄを閉じる"), Picture1);
     CommandNoText->hide();
     HScroll1 = scrollBar(QStringLiteral("HScroll1"), this);
+    HScroll1->resize(HScroll1->width(), HScroll1->sizeHint().height());
     HScroll1->hide();
     VScroll1 = new QScrollBar(Qt::Vertical, this);
     VScroll1->setObjectName(QStringLiteral("VScroll1"));
+    VScroll1->resize(VScroll1->sizeHint().width(), VScroll1->height());
     VScroll1->hide();
 }
 
@@ -275,16 +280,113 @@ void FormMain::connectHandlers()
     connect(CommandDeleate, &QPushButton::clicked, this, &FormMain::CommandDeleate_Click);
     connect(CommandRecov, &QPushButton::clicked, this, &FormMain::CommandRecov_Click);
 
+    connect(CommandScrollSizeAllowValue, &QPushButton::clicked, this, [this] { showWindow(QStringLiteral("FormPictureScrollSet")); });
+    CommandScrollSizeAllowValue->installEventFilter(this);
+    connect(CommandSendTo, &QPushButton::clicked, this, [this] { showWindow(QStringLiteral("FormSendTo")); });
+    connect(CommandIELeft, &QPushButton::clicked, this, &FormMain::CommandIELeft_Click);
+    connect(CommandIERight, &QPushButton::clicked, this, &FormMain::CommandIERight_Click);
+    Text1->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(Text1, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+        popupAt(QStringLiteral("FormRClick4"), Text1->mapToGlobal(at));
+    });
+    for (PictureBox* picture : {Picture2, Picture3}) {
+        connect(picture, &PictureBox::mouseUp, this,
+                [this, picture](Qt::MouseButton button, float x, float y) { Picture3_MouseUp(picture, button, x, y); });
+    }
+
+    // Keys for the show: Page Down and Page Up turn the pages, Escape ends the
+    // list view.
+    auto* next = new QShortcut(QKeySequence(Qt::Key_PageDown), this);
+    connect(next, &QShortcut::activated, this, [this] {
+        if (CommandRight->isEnabled())
+            CommandRight_Click();
+    });
+    auto* previous = new QShortcut(QKeySequence(Qt::Key_PageUp), this);
+    connect(previous, &QShortcut::activated, this, [this] {
+        if (CommandLeft->isEnabled())
+            CommandLeft_Click();
+    });
+    auto* endView = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(endView, &QShortcut::activated, this, [this] {
+        if (!CommandNoText->isHidden())
+            CommandNoText_Click();
+    });
+
     // Commands whose work isn't in this build yet stand disabled.
-    for (QWidget* command : std::initializer_list<QWidget*>{
-             CommandModPic, CommandSaveImage, CommandFull, CommandOption, CommandEdit,
-             CommandWriteCommentOnPic, CommandMakeHTML}) {
+    for (QWidget* command : std::initializer_list<QWidget*>{CommandModPic, CommandSaveImage,
+                                                          CommandFull, CommandOption, CommandEdit,
+                                                          CommandWriteCommentOnPic,
+                                                          CommandMakeHTML}) {
         command->setEnabled(false);
         command->setToolTip(QStringLiteral("準備中"));
     }
 }
 
 FormMain::~FormMain() = default;
+
+void FormMain::showWindow(const QString& name)
+{
+    if (FormBase* form = forms_.form(name))
+        form->showForm();
+}
+
+void FormMain::popupAt(const QString& name, const QPoint& global)
+{
+    if (FormBase* popup = forms_.form(name)) {
+        popup->load();
+        popup->move(global);
+        popup->show();
+        popup->raise();
+    }
+}
+
+void FormMain::CommandIELeft_Click()
+{
+    if (state_.WebPageShown)
+        WebBrowser1->GoBack();
+}
+
+void FormMain::CommandIERight_Click()
+{
+    if (state_.WebPageShown)
+        WebBrowser1->GoForward();
+}
+
+void FormMain::Picture3_MouseUp(QWidget* picture, Qt::MouseButton button, float x, float y)
+{
+    if (button == Qt::RightButton) {
+        const FormBase* drawing = forms_.existing(QStringLiteral("FormModPic"));
+        const FormBase* pasting = forms_.existing(QStringLiteral("FormPastComment"));
+        if ((drawing && drawing->isVisible()) || (pasting && pasting->isVisible()))
+            return;
+        // At the pointer: the picture's place plus where it was clicked.
+        popupAt(QStringLiteral("FormRClick5"),
+                picture->mapToGlobal(QPoint(twipsToPixels(x), twipsToPixels(y))));
+        return;
+    }
+    if (picture != Picture3)
+        return;
+    if (state_.AutoPageOn) {
+        if (links.stopAutoPage)
+            links.stopAutoPage();
+        showWindow(QStringLiteral("FormOption"));
+    }
+    if (isMaximized()) {
+        if (FormBase* navigator = forms_.form(QStringLiteral("FormRightLeftNorm")))
+            navigator->showForm();
+    }
+}
+
+bool FormMain::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == CommandScrollSizeAllowValue && event->type() == QEvent::Enter) {
+        // The tip beside the button, placed from the window, the frame and the button.
+        basics_.ShowFloatingMessage(int(twLeft(this) + twLeft(Frame2) + twLeft(CommandScrollSizeAllowValue)),
+                                    int(twTop(this) + twTop(CommandScrollSizeAllowValue) + 700),
+                                    QStringLiteral(" 縮小表示させる許容値設定 "));
+    }
+    return FormBase::eventFilter(watched, event);
+}
 
 void FormMain::CommandHatenaSettei_Click()
 {

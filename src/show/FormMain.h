@@ -35,6 +35,11 @@ struct FormMainLinks {
     std::function<void()> endProgram;       // End
     std::function<void()> stopAutoPage;     // FormOption's CommandStop
     std::function<void(int)> navigatorPage; // the navigator's page bar
+    std::function<void()> hideEditFrames;   // FormEdit's two entry frames
+    std::function<void()> pasteCommentOnPicture; // CommandWriteCommentOnPic_Click
+    std::function<void()> commandFull;      // CommandFull_Click (whole-screen mode)
+    std::function<void()> formNormalSize;   // FORMNORMALSIZE (back to the normal layout)
+    std::function<void(int index)> callSetting; // the set of an option word 8 to 22
 };
 
 class FormMain : public FormBase {
@@ -193,13 +198,19 @@ public:
     void TextTotal_Change();
     void TextHeadName_Change();
     void CommandHatenaSettei_Click();
+    void CommandIELeft_Click();
+    void CommandIERight_Click();
+    void Picture3_MouseUp(QWidget* picture, Qt::MouseButton button, float x, float y);
 
 protected:
     void Form_Load() override;
     void Form_Unload(bool& cancel) override;
     void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void showWindow(const QString& name);
+    void popupAt(const QString& name, const QPoint& global);
     QString mainFile() const;   // column 0 of the page
     QString withFile() const;   // column 1 of the page
     QString nativeOf(const QString& programPath) const;

@@ -4,6 +4,7 @@
 #include "show/FormMain.h"
 
 #include "display/FormComment.h"
+#include "display/MediaPanel.h"
 #include "display/PictureBox.h"
 #include "fileops/VeroProcedure_Basical.h"
 #include "list/CommandWords.h"

@@ -103,11 +103,10 @@ void FormMain::CommandCopy_Click()
     setBackColor(CommandCopy, kColorGreen);
     const QString name = Trim(TextFileName->text());
     const QString extension = TextAfterFirstDot(name);
-    const QString target =
-        TextNum->text().isEmpty()
-            ? state_.DataDir + QLatin1Char('\\') + TextHeadName->text() + QLatin1Char('.') + extension
-            : state_.DataDir + QLatin1Char('\\') + TextHeadName->text() + QLatin1Char('_') +
-                  TextNum->text() + QLatin1Char('.') + extension;
+    QString target = state_.DataDir + QLatin1Char('\\') + TextHeadName->text();
+    if (!TextNum->text().isEmpty())
+        target += QLatin1Char('_') + TextNum->text();
+    target += QLatin1Char('.') + extension;
     basics_.services().fs.copyFile(name, target);
     if (!TextNum->text().isEmpty())
         TextNum->setText(Format(Val(TextNum->text()) + 1, QStringLiteral("000")));

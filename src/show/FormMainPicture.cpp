@@ -5,7 +5,9 @@
 #include "show/FormMain.h"
 
 #include "display/PictureBox.h"
+#include "display/MediaPanel.h"
 #include "display/PictureCache.h"
+#include "display/WebBrowser.h"
 #include "fileops/VeroProcedure_Basical.h"
 #include "list/ExtTable.h"
 #include "platform/Basic.h"
@@ -130,7 +132,9 @@ void FormMain::PrepareShow()
         HScroll1->hide();
         ExcessWidth = rounded(twWidth(Picture1) - twWidth(Picture2));
         twMove(Picture2, truncated(ExcessWidth / 2.0), twTop(Picture2));
-        setCheckColour(CheckOriginalSize, kColorGrey);
+        // Yellow stays when the height didn't fit: the sign is for either way.
+        if (!VScrollNeeded)
+            setCheckColour(CheckOriginalSize, kColorGrey);
     }
     Picture2->show();
 }
@@ -176,7 +180,9 @@ void FormMain::FitPictureToFrame()
     RatioWidth = twWidth(Picture2) / twWidth(Picture1);
     RatioHeight = twHeight(Picture2) / twHeight(Picture1);
     if (RatioWidth < 1.0 && RatioHeight < 1.0) {
-        PlaceScrollBars(); // small pictures are never enlarged
+        // Small pictures are never enlarged: they stay in Picture2, centred.
+        Picture2->show();
+        PlaceScrollBars();
         return;
     }
     FitRatio = RatioWidth <= RatioHeight ? RatioHeight : RatioWidth;
@@ -327,6 +333,25 @@ void FormMain::RelayoutCurrentPage()
     } else if (kind == QLatin1String("AVI") || kind == QLatin1String("MEDIAPL2")) {
         relayoutVideo(kind == QLatin1String("MEDIAPL2"));
     }
+}
+
+} // namespace lumen
+
+namespace lumen {
+
+void FormMain::prepareNextPicture()
+{
+    // The next page's picture decodes off the interface thread at the size it
+    // will be shown, while this page is looked at.
+    if (CheckOriginalSize->isChecked() || state_.PicNo >= FileCount)
+        return;
+    const QString next = state_.ListArray.at(kColMain, state_.PicNo + 1);
+    if (CheckExtHat(next, state_.ExtTypeArray, TextAsAvi) != QLatin1String("PIC"))
+        return;
+    const QString native = nativeOf(next);
+    const QSize size = fittedSize(pictures_->probe(native));
+    if (!size.isEmpty())
+        pictures_->prepare(native, size);
 }
 
 } // namespace lumen

@@ -8,6 +8,14 @@
 #include "platform/FileSystem.h"
 #include "platform/Fonts.h"
 #include "platform/SafeFile.h"
+#include "display/FormCDMusic.h"
+#include "display/FormComment.h"
+#include "display/FormOmake.h"
+#include "display/FormPictureScrollSet.h"
+#include "display/FormRClick4.h"
+#include "display/FormRClick5.h"
+#include "settings/FormSendApliSet.h"
+#include "settings/FormSendTo.h"
 #include "settings/FormSetAccessDirectry.h"
 #include "settings/SendToList.h"
 #include "show/FormLumentaExit.h"
@@ -18,6 +26,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QTimer>
 
 namespace lumen {
@@ -125,6 +134,7 @@ void Lumenta::registerForms()
         access->onAbandoned = [this] { End(); };
         return access;
     });
+    registerShowForms();
     forms_.add(QStringLiteral("FormLumentaExit"), [this]() -> FormBase* {
         auto* exit = new FormLumentaExit(basics_, formMain());
         exit->unloadAllForms = [this] { UnloadAllForms(); };
@@ -143,6 +153,66 @@ void Lumenta::registerForms()
     hooks.openFileList = [this](const QString& list) { formMain().OpenFileList(list); };
     hooks.endProgram = [this] { End(); };
     startWithFile_ = std::make_unique<ModuleStartWithFile>(basics_, std::move(hooks));
+}
+
+void Lumenta::registerShowForms()
+{
+    forms_.add(QStringLiteral("FormComment"),
+               [this]() -> FormBase* { return new FormComment(basics_, forms_); });
+    forms_.add(QStringLiteral("FormOmake"), [this]() -> FormBase* { return new FormOmake(forms_); });
+    forms_.add(QStringLiteral("FormCDMusic"), [this]() -> FormBase* { return new FormCDMusic(basics_); });
+    forms_.add(QStringLiteral("FormPictureScrollSet"),
+               [this]() -> FormBase* { return new FormPictureScrollSet(basics_); });
+    forms_.add(QStringLiteral("FormSendTo"), [this]() -> FormBase* {
+        auto* sendTo = new FormSendTo(basics_);
+        sendTo->links.currentMainFile = [this] {
+            return Trim(state_.ListArray.at(kColMain, state_.PicNo));
+        };
+        sendTo->links.showSendApliSet = [this] {
+            forms_.form(QStringLiteral("FormSendApliSet"))->showForm();
+        };
+        return sendTo;
+    });
+    forms_.add(QStringLiteral("FormSendApliSet"), [this]() -> FormBase* {
+        auto* set = new FormSendApliSet(basics_);
+        set->onSaved = [this] {
+            formMain().CheckAuto_With();
+            if (FormBase* sendTo = forms_.existing(QStringLiteral("FormSendTo")); sendTo && sendTo->isLoaded()) {
+                sendTo->unload();
+                sendTo->showForm();
+            }
+        };
+        return set;
+    });
+    forms_.add(QStringLiteral("FormRClick4"), [this]() -> FormBase* {
+        auto* popup = new FormRClick4(basics_, forms_);
+        popup->mainWindow = [this]() -> QWidget* { return &formMain(); };
+        popup->currentFile = [this] { return formMain().TextFileName->text(); };
+        popup->shownText = [this] { return formMain().Text1->toPlainText(); };
+        return popup;
+    });
+    forms_.add(QStringLiteral("FormRClick5"), [this]() -> FormBase* {
+        auto* popup = new FormRClick5(basics_);
+        popup->openAutoPage = [this] {
+            if (FormBase* option = forms_.form(QStringLiteral("FormOption")))
+                option->showForm();
+        };
+        popup->recover = [this] { formMain().CommandRecov_Click(); };
+        popup->deleteFile = [this] { formMain().CommandDeleate_Click(); };
+        popup->currentFile = [this] { return formMain().TextFileName->text(); };
+        popup->open = [this](const QString& file) { openOneFile(file); };
+        return popup;
+    });
+}
+
+void Lumenta::openOneFile(const QString& file)
+{
+    // A file chosen to be seen at once becomes a one-line list, as a start
+    // with a picture does.
+    const QString runFile = state_.DataDir + QStringLiteral("\\RunFile.Lst");
+    basics_.WriteTextToFile(file, runFile);
+    basics_.WaitMilliseconds(100);
+    formMain().OpenFileList(runFile);
 }
 
 QString Lumenta::settingsFile(const QString& name) const

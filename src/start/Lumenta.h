@@ -48,6 +48,8 @@ public:
 
 private:
     void registerForms();
+    void registerShowForms();
+    void openOneFile(const QString& file);
     void readSmallSettingsFiles();
     QString settingsFile(const QString& name) const;
     void saveRecord();

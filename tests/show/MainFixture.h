@@ -9,7 +9,10 @@
 #include "show/FormMain.h"
 #include "support/BasicsFixture.h"
 
+#include <QCheckBox>
 #include <QColor>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QImage>
 
 namespace lumen::test {

@@ -89,6 +89,7 @@ void TestFormMainPicture::exactlyAsWideTakesTheShrinkPath()
 void TestFormMainPicture::tallPictureAtItsOwnSizeOpensAtItsMiddle()
 {
     MainFixture f;
+    f.main.showForm(); // loading takes the box from the record
     f.main.CheckOriginalSize->setChecked(true);
     f.open({f.picture("tall.png", 300, 2000)});
     PictureBox* p2 = f.main.Picture2;
