@@ -53,7 +53,8 @@ QByteArray bigJpeg()
     for (int i = 0; i < 4000; ++i) {
         painter.setBrush(QColor::fromRgb(random.generate()));
         painter.setPen(Qt::NoPen);
-        painter.drawEllipse(QPointF(random.bounded(6000), random.bounded(4000)), 20 + random.bounded(60), 20 + random.bounded(60));
+        painter.drawEllipse(QPointF(random.bounded(6000), random.bounded(4000)),
+                            20 + random.bounded(60), 20 + random.bounded(60));
     }
     painter.end();
     QByteArray bytes;
@@ -132,10 +133,11 @@ int main(int argc, char** argv)
     }
     const long peak = statusKb("VmHWM");
 
-    std::printf("picture: 6000x4000 JPEG, %lld bytes; display area %dx%d px\n",
-                qint64(jpeg.size()), main.Picture1->width(), main.Picture1->height());
+    std::printf("picture: 6000x4000 JPEG, %lld bytes; display area %dx%d px\n", qint64(jpeg.size()),
+                main.Picture1->width(), main.Picture1->height());
     std::printf("bare full-size decode       %8.1f ms\n", bare);
-    std::printf("cold page (click to paint)  %8.1f ms   ratio %.2f (target <= 1.2)\n", cold, cold / bare);
+    std::printf("cold page (click to paint)  %8.1f ms   ratio %.2f (target <= 1.2)\n", cold,
+                cold / bare);
     std::printf("prepared flip: mean %.1f ms, worst %.1f ms over %d flips (target < 50 ms)\n",
                 sum / flips, worst, flips);
     std::printf("peak memory while paging %d pages: %.0f MB (%.0f MB before) (target < 600 MB)\n",

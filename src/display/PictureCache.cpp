@@ -9,6 +9,9 @@ namespace lumen {
 PictureCache::PictureCache(qint64 budgetBytes)
     : budget_(budgetBytes)
 {
+    // Big enough for a 100-megapixel picture at its own size; a picture that
+    // would need more is refused, so memory stays bounded.
+    QImageReader::setAllocationLimit(512);
 }
 
 PictureCache::~PictureCache()
@@ -85,7 +88,10 @@ QImage PictureCache::get(const Key& key)
     return image;
 }
 
-QImage PictureCache::full(const QString& nativePath) { return get({nativePath, QSize()}); }
+QImage PictureCache::full(const QString& nativePath)
+{
+    return get({nativePath, QSize()});
+}
 
 QImage PictureCache::scaled(const QString& nativePath, const QSize& size)
 {
@@ -107,7 +113,8 @@ void PictureCache::prepare(const QString& nativePath, const QSize& size)
         else
             ++it;
     }
-    pending_.insert(key, QtConcurrent::run([nativePath, size] { return decode(nativePath, size); }));
+    pending_.insert(key,
+                    QtConcurrent::run([nativePath, size] { return decode(nativePath, size); }));
 }
 
 void PictureCache::clear()

@@ -46,7 +46,10 @@ private:
         QSize size; // empty for the full picture
         bool operator==(const Key& o) const { return path == o.path && size == o.size; }
     };
-    friend size_t qHash(const Key& key, size_t seed) { return qHashMulti(seed, key.path, key.size.width(), key.size.height()); }
+    friend size_t qHash(const Key& key, size_t seed)
+    {
+        return qHashMulti(seed, key.path, key.size.width(), key.size.height());
+    }
     struct Entry {
         QImage image;
         QDateTime modified;

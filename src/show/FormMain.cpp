@@ -1,16 +1,16 @@
 // FormMain: its controls and how they are wired.
 #include "show/FormMain.h"
 
+#include "display/MediaPanel.h"
 #include "display/PictureBox.h"
 #include "display/PictureCache.h"
-#include "display/MediaPanel.h"
 #include "display/WebBrowser.h"
-#include "platform/Media.h"
 #include "fileops/VeroProcedure_Basical.h"
 #include "platform/ClickLabel.h"
 #include "platform/Colors.h"
 #include "platform/Controls.h"
 #include "platform/FormRegistry.h"
+#include "platform/Media.h"
 #include "platform/Twips.h"
 #include "state/ProgramState.h"
 
@@ -233,9 +233,11 @@ void FormMain::buildDisplay()
     Media& media = basics_.services().media;
     WebBrowser1 = new WebBrowser(QStringLiteral("WebBrowser1"), media.createWebSurface(), Picture1);
     WebBrowser1->hide();
-    MediaPlayer1 = new MediaPanel(QStringLiteral("MediaPlayer1"), media.createEngine(true), Picture1);
+    MediaPlayer1 =
+        new MediaPanel(QStringLiteral("MediaPlayer1"), media.createEngine(true), Picture1);
     MediaPlayer1->hide();
-    MediaPlayer2 = new MediaPanel(QStringLiteral("MediaPlayer2"), media.createEngine(false), Picture1);
+    MediaPlayer2 =
+        new MediaPanel(QStringLiteral("MediaPlayer2"), media.createEngine(false), Picture1);
     MediaPlayer2->hide();
     // The end of a medium only tells Auto Page; it changes no page by itself.
     for (MediaPanel* panel : {MediaPlayer1, MediaPlayer2})
@@ -280,9 +282,11 @@ void FormMain::connectHandlers()
     connect(CommandDeleate, &QPushButton::clicked, this, &FormMain::CommandDeleate_Click);
     connect(CommandRecov, &QPushButton::clicked, this, &FormMain::CommandRecov_Click);
 
-    connect(CommandScrollSizeAllowValue, &QPushButton::clicked, this, [this] { showWindow(QStringLiteral("FormPictureScrollSet")); });
+    connect(CommandScrollSizeAllowValue, &QPushButton::clicked, this,
+            [this] { showWindow(QStringLiteral("FormPictureScrollSet")); });
     CommandScrollSizeAllowValue->installEventFilter(this);
-    connect(CommandSendTo, &QPushButton::clicked, this, [this] { showWindow(QStringLiteral("FormSendTo")); });
+    connect(CommandSendTo, &QPushButton::clicked, this,
+            [this] { showWindow(QStringLiteral("FormSendTo")); });
     connect(CommandIELeft, &QPushButton::clicked, this, &FormMain::CommandIELeft_Click);
     connect(CommandIERight, &QPushButton::clicked, this, &FormMain::CommandIERight_Click);
     Text1->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -291,7 +295,9 @@ void FormMain::connectHandlers()
     });
     for (PictureBox* picture : {Picture2, Picture3}) {
         connect(picture, &PictureBox::mouseUp, this,
-                [this, picture](Qt::MouseButton button, float x, float y) { Picture3_MouseUp(picture, button, x, y); });
+                [this, picture](Qt::MouseButton button, float x, float y) {
+                    Picture3_MouseUp(picture, button, x, y);
+                });
     }
 
     // Keys for the show: Page Down and Page Up turn the pages, Escape ends the
@@ -313,10 +319,9 @@ void FormMain::connectHandlers()
     });
 
     // Commands whose work isn't in this build yet stand disabled.
-    for (QWidget* command : std::initializer_list<QWidget*>{CommandModPic, CommandSaveImage,
-                                                          CommandFull, CommandOption, CommandEdit,
-                                                          CommandWriteCommentOnPic,
-                                                          CommandMakeHTML}) {
+    for (QWidget* command : std::initializer_list<QWidget*>{
+             CommandModPic, CommandSaveImage, CommandFull, CommandOption, CommandEdit,
+             CommandWriteCommentOnPic, CommandMakeHTML}) {
         command->setEnabled(false);
         command->setToolTip(QStringLiteral("準備中"));
     }
@@ -381,9 +386,10 @@ bool FormMain::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == CommandScrollSizeAllowValue && event->type() == QEvent::Enter) {
         // The tip beside the button, placed from the window, the frame and the button.
-        basics_.ShowFloatingMessage(int(twLeft(this) + twLeft(Frame2) + twLeft(CommandScrollSizeAllowValue)),
-                                    int(twTop(this) + twTop(CommandScrollSizeAllowValue) + 700),
-                                    QStringLiteral(" 縮小表示させる許容値設定 "));
+        basics_.ShowFloatingMessage(
+            int(twLeft(this) + twLeft(Frame2) + twLeft(CommandScrollSizeAllowValue)),
+            int(twTop(this) + twTop(CommandScrollSizeAllowValue) + 700),
+            QStringLiteral(" 縮小表示させる許容値設定 "));
     }
     return FormBase::eventFilter(watched, event);
 }

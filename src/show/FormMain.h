@@ -30,16 +30,16 @@ struct ProgramState;
 
 // What the main window needs from the application around it.
 struct FormMainLinks {
-    std::function<void()> startWithFile;    // Form_Load, step 9
-    std::function<void()> unloadAllForms;   // closing, in the fixed order
-    std::function<void()> endProgram;       // End
-    std::function<void()> stopAutoPage;     // FormOption's CommandStop
-    std::function<void(int)> navigatorPage; // the navigator's page bar
-    std::function<void()> hideEditFrames;   // FormEdit's two entry frames
+    std::function<void()> startWithFile;         // Form_Load, step 9
+    std::function<void()> unloadAllForms;        // closing, in the fixed order
+    std::function<void()> endProgram;            // End
+    std::function<void()> stopAutoPage;          // FormOption's CommandStop
+    std::function<void(int)> navigatorPage;      // the navigator's page bar
+    std::function<void()> hideEditFrames;        // FormEdit's two entry frames
     std::function<void()> pasteCommentOnPicture; // CommandWriteCommentOnPic_Click
-    std::function<void()> commandFull;      // CommandFull_Click (whole-screen mode)
-    std::function<void()> formNormalSize;   // FORMNORMALSIZE (back to the normal layout)
-    std::function<void(int index)> callSetting; // the set of an option word 8 to 22
+    std::function<void()> commandFull;           // CommandFull_Click (whole-screen mode)
+    std::function<void()> formNormalSize;        // FORMNORMALSIZE (back to the normal layout)
+    std::function<void(int index)> callSetting;  // the set of an option word 8 to 22
 };
 
 class FormMain : public FormBase {
@@ -126,7 +126,8 @@ public:
     QString ForcedShowKind;
     bool FillMode = false;
     bool NormalMode = true;
-    bool PutPictureInImage = false; // no command sets it; PUTPICTUREINIMAGE works through CheckOriginalSize
+    bool PutPictureInImage =
+        false; // no command sets it; PUTPICTUREINIMAGE works through CheckOriginalSize
 
     // ---- The page's kind and companions
     bool KindVrml = false;
@@ -211,8 +212,8 @@ protected:
 private:
     void showWindow(const QString& name);
     void popupAt(const QString& name, const QPoint& global);
-    QString mainFile() const;   // column 0 of the page
-    QString withFile() const;   // column 1 of the page
+    QString mainFile() const; // column 0 of the page
+    QString withFile() const; // column 1 of the page
     QString nativeOf(const QString& programPath) const;
     void companionRule(bool skipWhenResizing);
     void showCommentWindow();
@@ -248,7 +249,7 @@ private:
     std::unique_ptr<PictureCache> pictures_;
     AutoStartTable autoStart_;
     MediaPanel* movie_ = nullptr; // a movie page plays over the web view
-    double noTextWait_ = 1000; // the list view's wait; CommandNoText sets it to 0
+    double noTextWait_ = 1000;    // the list view's wait; CommandNoText sets it to 0
     bool inResize_ = false;
 };
 

@@ -47,10 +47,19 @@ bool beginsWithRiff(const QString& nativePath)
 
 } // namespace
 
-void FormMain::CheckAuto_With() { lumen::CheckAuto_With(basics_, autoStart_); }
+void FormMain::CheckAuto_With()
+{
+    lumen::CheckAuto_With(basics_, autoStart_);
+}
 
-QString FormMain::mainFile() const { return state_.ListArray.at(kColMain, state_.PicNo); }
-QString FormMain::withFile() const { return state_.ListArray.at(kColWith, state_.PicNo); }
+QString FormMain::mainFile() const
+{
+    return state_.ListArray.at(kColMain, state_.PicNo);
+}
+QString FormMain::withFile() const
+{
+    return state_.ListArray.at(kColWith, state_.PicNo);
+}
 
 // ---- Kinds ------------------------------------------------------------------
 
@@ -135,8 +144,9 @@ void FormMain::TakeMainAction()
         !state_.ForcedDriveTo.isEmpty()) {
         for (int column : {kColMain, kColWith}) {
             const QString cell = state_.ListArray.at(column, state_.PicNo);
-            state_.ListArray.set(column, state_.PicNo,
-                                 UCase(QString(cell).replace(state_.ForcedDriveFrom, state_.ForcedDriveTo)));
+            state_.ListArray.set(
+                column, state_.PicNo,
+                UCase(QString(cell).replace(state_.ForcedDriveFrom, state_.ForcedDriveTo)));
         }
         main = mainFile();
     }
@@ -172,8 +182,8 @@ void FormMain::TakeMainAction()
     } else {
         HasComment = true;
         const int mark = InStr(comment, kCommentMark);
-        const QString text = mark >= 1 && mark <= 4 ? Mid(comment, mark + 7)
-                                                    : basics_.ReadTextOfFile(comment);
+        const QString text =
+            mark >= 1 && mark <= 4 ? Mid(comment, mark + 7) : basics_.ReadTextOfFile(comment);
         if (auto* window = static_cast<FormComment*>(forms_.form(QStringLiteral("FormComment"))))
             window->setCommentText(text);
     }
@@ -187,7 +197,8 @@ void FormMain::TakeMainAction()
     if (!anyKind) {
         DisplayPicturePage();
         if (isMaximized())
-            setWindowTitle(main + (LargePictureFlag ? QStringLiteral("  Lerge picture") : QString()));
+            setWindowTitle(main +
+                           (LargePictureFlag ? QStringLiteral("  Lerge picture") : QString()));
         else
             setWindowTitle(LargePictureFlag ? QStringLiteral("Lerge picture") : QString());
     } else {
@@ -324,7 +335,8 @@ void FormMain::ShowText()
     Text1->show();
     twMove(Text1, 0, 0, twWidth(Picture1), twHeight(Picture1));
     Text1->clear();
-    Text1->setPlainText(QString(basics_.ReadTextOfFile(mainFile())).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    Text1->setPlainText(QString(basics_.ReadTextOfFile(mainFile()))
+                            .replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
 }
 
 void FormMain::ShowVrml()
@@ -332,7 +344,8 @@ void FormMain::ShowVrml()
     CleareDisp(QString());
     companionRule(false);
     if (CheckUseCyberView->isChecked())
-        basics_.services().launcher.shell(FixedText(state_.DirecData.VrmlViewerPath) + QLatin1Char(' ') + mainFile());
+        basics_.services().launcher.shell(FixedText(state_.DirecData.VrmlViewerPath) +
+                                          QLatin1Char(' ') + mainFile());
     else
         setBackColor(CheckUseCyberView, kColorYellow);
 }
@@ -342,7 +355,8 @@ void FormMain::ShowNff()
     CleareDisp(QString());
     companionRule(false);
     if (CheckUseCyberView->isChecked())
-        basics_.services().launcher.shell(FixedText(state_.DirecData.CyberViewPath) + QLatin1Char(' ') + mainFile());
+        basics_.services().launcher.shell(FixedText(state_.DirecData.CyberViewPath) +
+                                          QLatin1Char(' ') + mainFile());
     else
         setBackColor(CheckUseCyberView, kColorYellow);
 }

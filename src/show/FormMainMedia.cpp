@@ -83,11 +83,20 @@ void FormMain::relayoutVideo(bool showIt)
         MediaPlayer1->show();
 }
 
-void FormMain::setVideoFullScreen(bool on) { MediaPlayer1->setFullScreen(on); }
+void FormMain::setVideoFullScreen(bool on)
+{
+    MediaPlayer1->setFullScreen(on);
+}
 
-void FormMain::closeVideo() { MediaPlayer1->Stop(); }
+void FormMain::closeVideo()
+{
+    MediaPlayer1->Stop();
+}
 
-void FormMain::navigateWebAway() { WebBrowser1->NavigateAway(); }
+void FormMain::navigateWebAway()
+{
+    WebBrowser1->NavigateAway();
+}
 
 void FormMain::ShowWeb()
 {

@@ -24,7 +24,10 @@ namespace {
 
 using namespace basic;
 
-bool holdsColon(const QLineEdit* box) { return box->text().contains(QLatin1Char(':')); }
+bool holdsColon(const QLineEdit* box)
+{
+    return box->text().contains(QLatin1Char(':'));
+}
 
 } // namespace
 
@@ -51,9 +54,15 @@ void FormMain::step(int direction)
     setBackColor(forward ? LabelMax : LabelSmall, kColorRed);
 }
 
-void FormMain::CommandRight_Click() { step(+1); }
+void FormMain::CommandRight_Click()
+{
+    step(+1);
+}
 
-void FormMain::CommandLeft_Click() { step(-1); }
+void FormMain::CommandLeft_Click()
+{
+    step(-1);
+}
 
 void FormMain::HScrollPicNom_Scroll()
 {

@@ -4,8 +4,8 @@
 // roundings and truncations are as the layout has always had them.
 #include "show/FormMain.h"
 
-#include "display/PictureBox.h"
 #include "display/MediaPanel.h"
+#include "display/PictureBox.h"
 #include "display/PictureCache.h"
 #include "display/WebBrowser.h"
 #include "fileops/VeroProcedure_Basical.h"
@@ -32,8 +32,14 @@ using namespace basic;
 
 constexpr double kTwips = lumen::kTwipsPerPixel; // per pixel, either way
 
-qint32 rounded(double value) { return qint32(RoundHalfEven(value)); }
-qint32 truncated(double value) { return qint32(std::trunc(value)); }
+qint32 rounded(double value)
+{
+    return qint32(RoundHalfEven(value));
+}
+qint32 truncated(double value)
+{
+    return qint32(std::trunc(value));
+}
 
 // A scroll bar's properties are 16-bit: a value that doesn't fit is an
 // overflow, and the statement is passed over.
@@ -44,7 +50,10 @@ void setBarValue(QScrollBar* bar, void (QScrollBar::*setter)(int), double value)
         (bar->*setter)(stored);
 }
 
-void setCheckColour(QCheckBox* box, qint32 bgr) { setBackColor(box, bgr); }
+void setCheckColour(QCheckBox* box, qint32 bgr)
+{
+    setBackColor(box, bgr);
+}
 
 } // namespace
 
@@ -225,7 +234,8 @@ void FormMain::PlaceScrollBars()
             twMove(HScroll1, 0, scaleHeight - twHeight(HScroll1), scaleWidth - twWidth(VScroll1),
                    twHeight(HScroll1));
         else
-            twMove(HScroll1, twLeft(Picture1), scaleHeight - twHeight(Frame3) - twHeight(HScroll1) - 10,
+            twMove(HScroll1, twLeft(Picture1),
+                   scaleHeight - twHeight(Frame3) - twHeight(HScroll1) - 10,
                    scaleWidth - twWidth(Frame1) - twWidth(VScroll1) - twLeft(Picture1),
                    twHeight(HScroll1));
         HScroll1->raise();

@@ -1,5 +1,11 @@
 #include "start/Lumenta.h"
 
+#include "display/FormCDMusic.h"
+#include "display/FormComment.h"
+#include "display/FormOmake.h"
+#include "display/FormPictureScrollSet.h"
+#include "display/FormRClick4.h"
+#include "display/FormRClick5.h"
 #include "fileops/FormStop.h"
 #include "fileops/WorkingFolders.h"
 #include "list/FormHatenaDrive.h"
@@ -8,12 +14,6 @@
 #include "platform/FileSystem.h"
 #include "platform/Fonts.h"
 #include "platform/SafeFile.h"
-#include "display/FormCDMusic.h"
-#include "display/FormComment.h"
-#include "display/FormOmake.h"
-#include "display/FormPictureScrollSet.h"
-#include "display/FormRClick4.h"
-#include "display/FormRClick5.h"
 #include "settings/FormSendApliSet.h"
 #include "settings/FormSendTo.h"
 #include "settings/FormSetAccessDirectry.h"
@@ -159,8 +159,10 @@ void Lumenta::registerShowForms()
 {
     forms_.add(QStringLiteral("FormComment"),
                [this]() -> FormBase* { return new FormComment(basics_, forms_); });
-    forms_.add(QStringLiteral("FormOmake"), [this]() -> FormBase* { return new FormOmake(forms_); });
-    forms_.add(QStringLiteral("FormCDMusic"), [this]() -> FormBase* { return new FormCDMusic(basics_); });
+    forms_.add(QStringLiteral("FormOmake"),
+               [this]() -> FormBase* { return new FormOmake(forms_); });
+    forms_.add(QStringLiteral("FormCDMusic"),
+               [this]() -> FormBase* { return new FormCDMusic(basics_); });
     forms_.add(QStringLiteral("FormPictureScrollSet"),
                [this]() -> FormBase* { return new FormPictureScrollSet(basics_); });
     forms_.add(QStringLiteral("FormSendTo"), [this]() -> FormBase* {
@@ -177,7 +179,8 @@ void Lumenta::registerShowForms()
         auto* set = new FormSendApliSet(basics_);
         set->onSaved = [this] {
             formMain().CheckAuto_With();
-            if (FormBase* sendTo = forms_.existing(QStringLiteral("FormSendTo")); sendTo && sendTo->isLoaded()) {
+            if (FormBase* sendTo = forms_.existing(QStringLiteral("FormSendTo"));
+                sendTo && sendTo->isLoaded()) {
                 sendTo->unload();
                 sendTo->showForm();
             }

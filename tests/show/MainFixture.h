@@ -2,8 +2,8 @@
 // and helpers that make pages on disk.
 #pragma once
 
-#include "display/FormComment.h"
 #include "display/FormCDMusic.h"
+#include "display/FormComment.h"
 #include "list/CommandWords.h"
 #include "platform/FormRegistry.h"
 #include "show/FormMain.h"
@@ -11,9 +11,9 @@
 
 #include <QCheckBox>
 #include <QColor>
+#include <QImage>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QImage>
 
 namespace lumen::test {
 
@@ -39,7 +39,8 @@ struct MainFixture : BasicsFixture {
         const QString native = home.native(relative);
         QDir().mkpath(QFileInfo(native).path());
         image.save(native);
-        return QStringLiteral("C:\\") + QString(relative).replace(QLatin1Char('/'), QLatin1Char('\\'));
+        return QStringLiteral("C:\\") +
+               QString(relative).replace(QLatin1Char('/'), QLatin1Char('\\'));
     }
 
     // Writes the list and opens it quickly (no half-minute view).

@@ -8,6 +8,7 @@
 #include "support/Shots.h"
 
 #include <QCheckBox>
+#include <QFile>
 #include <QScrollBar>
 #include <QTest>
 
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void tallPictureAtItsOwnSizeOpensAtItsMiddle();
     void badPicturesLeaveTheAreaBlank_data();
     void badPicturesLeaveTheAreaBlank();
+    void hugePictureStaysBounded();
     void allowanceMarksOnlyLargeWebPages_data();
     void allowanceMarksOnlyLargeWebPages();
 };
@@ -130,6 +132,33 @@ void TestFormMainPicture::badPicturesLeaveTheAreaBlank()
     QVERIFY(!f.main.Picture2->hasPicture()); // not the last page's picture
     QVERIFY(!f.main.Picture3->isVisible() || f.main.Picture3->picture().isNull());
     QCOMPARE(f.main.TextFileName->text(), QStringLiteral("C:\\bad.jpg"));
+}
+
+void TestFormMainPicture::hugePictureStaysBounded()
+{
+    MainFixture f;
+    {
+        QImage huge(20000, 20000, QImage::Format_Mono); // 48 KB as a PNG
+        huge.fill(0);
+        QVERIFY(huge.save(f.home.native("huge.png")));
+    }
+    const auto peakKb = [] {
+        QFile status(QStringLiteral("/proc/self/status"));
+        status.open(QIODevice::ReadOnly);
+        for (const QByteArray& line : status.readAll().split('\n')) {
+            if (line.startsWith("VmHWM:"))
+                return line.mid(6).trimmed().split(' ').first().toLong();
+        }
+        return 0L;
+    };
+    const long before = peakKb();
+    f.main.CheckOriginalSize->setChecked(false);
+    f.open({QStringLiteral("C:\\huge.png")});
+    f.main.CheckOriginalSize->setChecked(true);
+    f.main.Form_Resize(); // and at its own size
+    f.main.repaint();
+    QVERIFY2(peakKb() - before < 300 * 1024, "a 20000 by 20000 picture is refused, not decoded");
+    QVERIFY(f.main.Picture3->picture().isNull());
 }
 
 void TestFormMainPicture::allowanceMarksOnlyLargeWebPages_data()

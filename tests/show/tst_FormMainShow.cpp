@@ -28,7 +28,8 @@ namespace {
 QString visibleSurfaces(FormMain& main)
 {
     QStringList shown;
-    for (const char* name : {"Picture2", "Picture3", "Text1", "WebBrowser1", "MediaPlayer1", "MediaPlayer2"}) {
+    for (const char* name :
+         {"Picture2", "Picture3", "Text1", "WebBrowser1", "MediaPlayer1", "MediaPlayer2"}) {
         QWidget* w = main.findChild<QWidget*>(name);
         auto* picture = qobject_cast<PictureBox*>(w);
         const bool holds = !picture || picture->hasPicture(); // an empty picture box shows nothing
@@ -59,16 +60,30 @@ private Q_SLOTS:
 
 void TestFormMainShow::eachKindOnItsSurface_data()
 {
-    QTest::addColumn<QString>("file");      // under home
-    QTest::addColumn<QString>("surfaces");  // visible afterwards
+    QTest::addColumn<QString>("file");     // under home
+    QTest::addColumn<QString>("surfaces"); // visible afterwards
     QTest::addColumn<QString>("caption");
-    QTest::newRow("picture") << "p.png" << "Picture2" << "";
-    QTest::newRow("text") << "t.txt" << "Text1" << "";
-    QTest::newRow("video") << "v.avi" << "MediaPlayer1" << "";
-    QTest::newRow("midi") << "m.mid" << "MediaPlayer2" << "";
-    QTest::newRow("web page") << "w.html" << "WebBrowser1" << "";
-    QTest::newRow("sound") << "s.wav" << "" << "";
-    QTest::newRow("missing file") << "none.jpg" << "" << "File Niot Found C:\\none.jpg";
+    QTest::newRow("picture") << "p.png"
+                             << "Picture2"
+                             << "";
+    QTest::newRow("text") << "t.txt"
+                          << "Text1"
+                          << "";
+    QTest::newRow("video") << "v.avi"
+                           << "MediaPlayer1"
+                           << "";
+    QTest::newRow("midi") << "m.mid"
+                          << "MediaPlayer2"
+                          << "";
+    QTest::newRow("web page") << "w.html"
+                              << "WebBrowser1"
+                              << "";
+    QTest::newRow("sound") << "s.wav"
+                           << ""
+                           << "";
+    QTest::newRow("missing file") << "none.jpg"
+                                  << ""
+                                  << "File Niot Found C:\\none.jpg";
 }
 
 void TestFormMainShow::eachKindOnItsSurface()
@@ -78,7 +93,8 @@ void TestFormMainShow::eachKindOnItsSurface()
     if (file == QLatin1String("p.png"))
         f.picture(file, 60, 40);
     else if (file != QLatin1String("none.jpg"))
-        f.home.writeFile(file, file.endsWith(QLatin1String(".txt")) ? QByteArray("一行目\r\n二行目") : QByteArray("x"));
+        f.home.writeFile(file, file.endsWith(QLatin1String(".txt")) ? QByteArray("一行目\r\n二行目")
+                                                                    : QByteArray("x"));
     f.open({QStringLiteral("C:\\") + file});
     QCOMPARE(visibleSurfaces(f.main), FETCH(QString, surfaces));
     QCOMPARE(f.main.windowTitle(), FETCH(QString, caption));
@@ -92,7 +108,8 @@ void TestFormMainShow::eachKindOnItsSurface()
         QVERIFY(f.state.WebPageShown);
     }
     if (file == QLatin1String("v.avi"))
-        QVERIFY(f.media.engines[0]->calls.contains(QStringLiteral("open ") + f.home.native("v.avi")));
+        QVERIFY(
+            f.media.engines[0]->calls.contains(QStringLiteral("open ") + f.home.native("v.avi")));
 }
 
 void TestFormMainShow::companionSoundAndHideBox_data()
@@ -120,9 +137,12 @@ void TestFormMainShow::commentWindowTakesTheText_data()
 {
     QTest::addColumn<QString>("item");
     QTest::addColumn<QString>("text");
-    QTest::newRow("inline") << "@COMMENT=<<<<<一行<<<<<二行 ENDCOMMENT" << "一行\r\n二行";
-    QTest::newRow("without the mark loses two characters") << "@COMMENT=abcdef ENDCOMMENT" << "cdef";
-    QTest::newRow("comment file") << "@FILECOMMENT=C:\\note.txt ENDFILECOMMENT" << "ファイルの\r\nコメント";
+    QTest::newRow("inline") << "@COMMENT=<<<<<一行<<<<<二行 ENDCOMMENT"
+                            << "一行\r\n二行";
+    QTest::newRow("without the mark loses two characters") << "@COMMENT=abcdef ENDCOMMENT"
+                                                           << "cdef";
+    QTest::newRow("comment file") << "@FILECOMMENT=C:\\note.txt ENDFILECOMMENT"
+                                  << "ファイルの\r\nコメント";
 }
 
 void TestFormMainShow::commentWindowTakesTheText()
@@ -218,7 +238,7 @@ void TestFormMainShow::deleteThenRecover()
     QCOMPARE(f.home.readFile("a.png"), original);
     QVERIFY(!f.home.exists("Lumentas/ForProgramRun_KDR/DelTempF.png"));
     QVERIFY(!f.home.exists("Lumentas/ForProgramRun_KDR/DelTempFName.txt"));
-    QVERIFY(f.main.Picture2->hasPicture()); // shown again
+    QVERIFY(f.main.Picture2->hasPicture());                 // shown again
     QTest::mouseClick(f.main.CommandRecov, Qt::LeftButton); // only once
     QCOMPARE(f.ui.beeps, 2);
 }

@@ -8,7 +8,10 @@ FakeEngine::FakeEngine(bool video)
         surface_ = new QWidget;
 }
 
-FakeEngine::~FakeEngine() { delete surface_; }
+FakeEngine::~FakeEngine()
+{
+    delete surface_;
+}
 
 void FakeEngine::open(const QString& nativePath)
 {
@@ -44,10 +47,12 @@ void FakeEngine::finish()
 
 FakeWebSurface::FakeWebSurface()
     : widget_(new QWidget)
-{
-}
+{}
 
-FakeWebSurface::~FakeWebSurface() { delete widget_; }
+FakeWebSurface::~FakeWebSurface()
+{
+    delete widget_;
+}
 
 void FakeWebSurface::navigate(const QUrl& url)
 {
@@ -55,7 +60,10 @@ void FakeWebSurface::navigate(const QUrl& url)
     Q_EMIT loadFinished(true);
 }
 
-void FakeWebSurface::navigateAway() { urls << QUrl(QStringLiteral("about:blank")); }
+void FakeWebSurface::navigateAway()
+{
+    urls << QUrl(QStringLiteral("about:blank"));
+}
 
 void FakeCdDrive::play(const QString& device, int t)
 {
