@@ -96,3 +96,12 @@ QUrl QtWebSurface::url() const
 }
 
 } // namespace lumen
+
+namespace lumen {
+
+QSize QtWebSurface::contentsSize() const
+{
+    return view_ ? view_->page()->contentsSize().toSize() : QSize();
+}
+
+} // namespace lumen

@@ -29,6 +29,7 @@ public:
     void back() override;
     void forward() override;
     QUrl url() const override;
+    QSize contentsSize() const override;
 
     bool hasView() const { return !view_.isNull(); }
     int refusedDownloads() const { return refusedDownloads_; }

@@ -51,4 +51,6 @@ QUrl WebBrowser::url() const
     return surface_ ? surface_->url() : QUrl();
 }
 
+QSize WebBrowser::contentsSize() const { return surface_ ? surface_->contentsSize() : QSize(); }
+
 } // namespace lumen

@@ -25,6 +25,7 @@ public:
     void GoBack();
     void GoForward();
     QUrl url() const;
+    QSize contentsSize() const; // the page's own size in pixels, once loaded
 
 Q_SIGNALS:
     void loadFinished(bool ok);

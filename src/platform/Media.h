@@ -57,6 +57,8 @@ public:
     virtual void back() = 0;
     virtual void forward() = 0;
     virtual QUrl url() const = 0;
+    // The whole page's size in pixels once it has loaded; empty when unknown.
+    virtual QSize contentsSize() const { return {}; }
 
 Q_SIGNALS:
     void loadFinished(bool ok);

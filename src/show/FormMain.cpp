@@ -242,6 +242,15 @@ void FormMain::buildDisplay()
     // The end of a medium only tells Auto Page; it changes no page by itself.
     for (MediaPanel* panel : {MediaPlayer1, MediaPlayer2})
         connect(panel, &MediaPanel::ended, this, [this] { state_.MediaEnded = true; });
+    connect(WebBrowser1, &WebBrowser::loadFinished, this, [this](bool ok) {
+        // The page's rectangle stands in Picture2 for the allowance test.
+        const QSize page = WebBrowser1->contentsSize();
+        if (!ok || !state_.WebPageShown || page.isEmpty() || WebBrowser1->isHidden())
+            return;
+        Picture2->hide();
+        Picture2->resize(page);
+        SetWebScrollBars();
+    });
     connect(MediaPlayer1, &MediaPanel::videoSizeChanged, this, [this] {
         if (!MediaPlayer1->isHidden())
             centreVideo();

@@ -56,6 +56,8 @@ private Q_SLOTS:
     void deleteThenRecover();
     void secondDeleteOverwritesTheUndoRecord();
     void deleteRefusesManyFileKinds();
+    void largeWebPageIsMarked_data();
+    void largeWebPageIsMarked();
 };
 
 void TestFormMainShow::eachKindOnItsSurface_data()
@@ -266,6 +268,26 @@ void TestFormMainShow::deleteRefusesManyFileKinds()
     QVERIFY(f.home.exists("world.wrl"));
     QCOMPARE(f.ui.boxes.last(),
              QStringLiteral("複数のﾌｧｲﾙを含むため消去はしません。別の方法で削除してください"));
+}
+
+void TestFormMainShow::largeWebPageIsMarked_data()
+{
+    QTest::addColumn<int>("extraHeight"); // pixels beyond the display area
+    QTest::addColumn<bool>("large");
+    QTest::newRow("a long page") << 400 << true;
+    QTest::newRow("a page that fits") << -10 << false;
+}
+
+void TestFormMainShow::largeWebPageIsMarked()
+{
+    MainFixture f;
+    f.home.writeFile("w.html", "<html><body>x</body></html>");
+    f.main.showForm();
+    f.media.webs[0]->pageSize = QSize(f.main.Picture1->width(),
+                                      f.main.Picture1->height() + FETCH(int, extraHeight));
+    f.open({QStringLiteral("C:\\w.html")});
+    QCOMPARE(f.main.LargePictureFlag, FETCH(bool, large));
+    QCOMPARE(f.main.VScroll1->isVisible(), FETCH(bool, large));
 }
 
 QTEST_MAIN(TestFormMainShow)

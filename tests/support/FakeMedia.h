@@ -52,6 +52,8 @@ public:
     void back() override { moves << QStringLiteral("back"); }
     void forward() override { moves << QStringLiteral("forward"); }
     QUrl url() const override { return urls.isEmpty() ? QUrl() : urls.last(); }
+    QSize contentsSize() const override { return pageSize; }
+    QSize pageSize; // what the page reports once "loaded"
 
 private:
     QPointer<QWidget> widget_;
