@@ -497,9 +497,15 @@ bool FileSystem::copyFile(const QString& from, const QString& to)
         return false;
     const QString staged = temporary.fileName();
     temporary.close();
-    QFile::remove(staged);
-    if (!QFile::copy(source, staged))
+    // The kernel copies the bytes (sendfile), and the mode bits come along.
+    std::error_code error;
+    std::filesystem::copy_file(QFile::encodeName(source).constData(),
+                               QFile::encodeName(staged).constData(),
+                               std::filesystem::copy_options::overwrite_existing, error);
+    if (error) {
+        QFile::remove(staged);
         return false;
+    }
     if (::rename(QFile::encodeName(staged).constData(), QFile::encodeName(target).constData()) !=
         0) {
         QFile::remove(staged);
