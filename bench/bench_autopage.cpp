@@ -120,11 +120,11 @@ int main(int argc, char** argv)
     const double prepared = show.walk(true);
     const double cold = show.walk(false);
     const double intervals = kPages * 1.0;
-    std::printf("%d pages of 6000x4000 JPEG (%lld bytes each), interval 1 s, display area %dx%d px\n",
-                kPages, qint64(jpeg.size()), show.main.Picture1->width(),
-                show.main.Picture1->height());
-    std::printf("prepared ahead:      %7.2f s   %+6.2f %% over %.0f s (target <= +3 %%)\n", prepared,
-                (prepared / intervals - 1) * 100, intervals);
+    std::printf(
+        "%d pages of 6000x4000 JPEG (%lld bytes each), interval 1 s, display area %dx%d px\n",
+        kPages, qint64(jpeg.size()), show.main.Picture1->width(), show.main.Picture1->height());
+    std::printf("prepared ahead:      %7.2f s   %+6.2f %% over %.0f s (target <= +3 %%)\n",
+                prepared, (prepared / intervals - 1) * 100, intervals);
     std::printf("no preparation:      %7.2f s   %+6.2f %% over %.0f s\n", cold,
                 (cold / intervals - 1) * 100, intervals);
     std::printf("loading per page:    %7.1f ms prepared, %.1f ms without\n",
