@@ -47,6 +47,11 @@ void applySet(const SetTargets& targets, SetGroup group, const FontColorSet& set
         applyColor(label, set.secondColor, setForeColor);
         if (label)
             label->adjustSize();
+        if (QWidget* overlay = target(targets.commentOverlay)) {
+            applyFont(overlay, set);
+            applyColor(overlay, set.firstColor, setBackColor);
+            applyColor(overlay, set.secondColor, setForeColor);
+        }
         return;
     }
     case SetGroup::Text: {

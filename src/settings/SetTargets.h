@@ -15,6 +15,7 @@ namespace lumen {
 struct SetTargets {
     std::function<QWidget*()> commentWindow;        // FormComment: its ground
     std::function<QWidget*()> commentLabel;         // its label: font and letters
+    std::function<QWidget*()> commentOverlay;       // FormMain's LabelComment: all three
     std::function<QWidget*()> textPane;             // FormMain's Text1
     std::function<QWidget*()> pictureArea;          // FormMain's Picture1
     std::function<QList<QWidget*>()> smallControls; // the boxes in the small font

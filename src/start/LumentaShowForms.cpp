@@ -5,6 +5,7 @@
 #include "display/FormRightLeftNorm.h"
 #include "display/MediaPanel.h"
 #include "display/PictureBox.h"
+#include "platform/ClickLabel.h"
 #include "settings/FormCommandConbo.h"
 #include "settings/FormSetFontAndColor.h"
 #include "show/FormMain.h"
@@ -34,6 +35,7 @@ SetTargets Lumenta::setTargets()
         FormComment* window = comment();
         return window ? window->Label1 : nullptr;
     };
+    targets.commentOverlay = [this]() -> QWidget* { return formMain().LabelComment; };
     targets.textPane = [this]() -> QWidget* { return formMain().Text1; };
     targets.pictureArea = [this]() -> QWidget* { return formMain().Picture1; };
     targets.smallControls = [this] {

@@ -7,6 +7,7 @@
 # seconds stays near nothing). A screenshot with the navigator is left in the
 # output folder. Then the navigator brings the normal layout back and Stop is
 # pressed during a wait: Auto Page is off at once and no further page comes.
+# Last, the program is ended during a wait of a new walk: it leaves with 0.
 #   smoke_autopage.sh <lumenta> <source folder> <output folder>
 set -euo pipefail
 exe=$1
@@ -119,4 +120,18 @@ sleep 4 # longer than any wait of the demo
 dump
 [ "$(value TextCount)" = "$page" ] || fail "a page came after Stop ($page, then $(value TextCount))"
 grep -q '^Shown=FormOption' "$settings/StateDump.txt" || fail "Auto Page's window isn't up after Stop"
-echo "PASS: Auto Page on the whole screen with the navigator, asleep while waiting, stopped on page $page"
+
+click 'FormOption\.CommandStart'
+await '^AutoPageOn=True' || fail "Auto Page didn't start again"
+sleep 0.5
+click 'FormMain\.CommandExit'
+for _ in $(seq 1 50); do
+  kill -0 "$pid" 2>/dev/null || break
+  sleep 0.1
+done
+kill -0 "$pid" 2>/dev/null && fail "the program didn't end during the wait"
+code=0
+wait "$pid" || code=$?
+pid=
+[ "$code" = 0 ] || fail "the program ended with $code"
+echo "PASS: Auto Page on the whole screen with the navigator, asleep while waiting, stopped on page $page, ended in a wait"
