@@ -61,6 +61,8 @@ public:
         return std::nullopt;
     }
     QString browseForFolder(const QString&, const QString&) override { return {}; }
+    std::optional<qint32> chooseColor(qint32) override { return std::nullopt; }
+    std::optional<FontChoice> chooseFont(const QString&, double) override { return std::nullopt; }
 };
 
 class NoMedia : public Media {

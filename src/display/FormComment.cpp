@@ -11,7 +11,6 @@
 
 #include <QLabel>
 #include <QMouseEvent>
-#include <QRegularExpression>
 
 #include <cmath>
 
@@ -26,19 +25,6 @@ constexpr int kDesignHeight = 60;
 constexpr double kLabelStart = 100; // twips
 constexpr double kHugMargin = 200;  // twips
 constexpr double kDragThreshold = 10;
-
-// A settings text that the numeric conversion takes: a decimal number or an
-// "&H"/"&O" literal, blanks around it allowed. Anything else is a type
-// mismatch, and the property it was meant for stays as it was.
-bool isNumericText(const QString& text)
-{
-    static const QRegularExpression number(
-        QStringLiteral("^ *[-+]?(") +
-        QStringLiteral("&[Hh][0-9A-Fa-f]+&?|&[Oo][0-7]+&?|") +               // &H and &O literals
-        QStringLiteral("([0-9]+\\.?[0-9]*|\\.[0-9]+)([EeDd][-+]?[0-9]+)?") + // decimal
-        QStringLiteral(") *$"));
-    return number.match(text).hasMatch();
-}
 
 float twips(qreal pixels)
 {
@@ -70,11 +56,11 @@ void FormComment::Form_Load()
     const QString letters = FixedText(record.CommentForeColor);
 
     Label1->setFont(fontFrom(Label1->font(), fontName, 0));
-    if (isNumericText(fontSize))
+    if (IsNumeric(fontSize))
         Label1->setFont(fontFrom(Label1->font(), QString(), Val(fontSize)));
-    if (isNumericText(ground))
+    if (IsNumeric(ground))
         setBackColor(this, bgrFromText(ground));
-    if (isNumericText(letters))
+    if (IsNumeric(letters))
         setForeColor(Label1, bgrFromText(letters));
     Label1->adjustSize();
 

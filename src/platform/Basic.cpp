@@ -1,5 +1,6 @@
 #include "platform/Basic.h"
 
+#include <QRegularExpression>
 #include <QStringView>
 
 #include <algorithm>
@@ -388,6 +389,16 @@ qint64 RoundHalfEven(double value)
     if (whole < -0x1p63)
         return std::numeric_limits<qint64>::min();
     return qint64(whole);
+}
+
+bool IsNumeric(const QString& text)
+{
+    static const QRegularExpression number(
+        QStringLiteral("^ *[-+]?(") +
+        QStringLiteral("&[Hh][0-9A-Fa-f]+&?|&[Oo][0-7]+&?|") +               // &H and &O literals
+        QStringLiteral("([0-9]+\\.?[0-9]*|\\.[0-9]+)([EeDd][-+]?[0-9]+)?") + // decimal
+        QStringLiteral(") *$"));
+    return number.match(text).hasMatch();
 }
 
 } // namespace lumen::basic

@@ -18,6 +18,11 @@ namespace lumen::basic {
 // range of a double is an infinity, so that storing it fails.
 double Val(const QString& text);
 
+// IsNumeric: the text is a number that the numeric conversions take (a
+// decimal number or an "&H"/"&O" literal, blanks around it allowed).
+// Anything else would be a type mismatch.
+bool IsNumeric(const QString& text);
+
 // Str: the number's text with a leading blank when it is not negative and no
 // zero before the decimal point: Str(5) = " 5", Str(0.5) = " .5", Str(-2) = "-2".
 // Up to 15 significant digits; beyond them E notation: " 1E+16", " 1E-07".

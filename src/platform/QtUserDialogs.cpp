@@ -1,10 +1,13 @@
 #include "platform/QtUserDialogs.h"
 
+#include "platform/Colors.h"
 #include "platform/FormMessage.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDateTime>
 #include <QFileDialog>
+#include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -111,6 +114,26 @@ std::optional<QString> QtUserDialogs::saveFileName(const QString& title, const Q
 QString QtUserDialogs::browseForFolder(const QString& title, const QString& startPath)
 {
     return QFileDialog::getExistingDirectory(owner_, title, startPath, QFileDialog::ShowDirsOnly);
+}
+
+std::optional<qint32> QtUserDialogs::chooseColor(qint32 initialBgr)
+{
+    const QColor chosen = QColorDialog::getColor(colorFromBgr(initialBgr), owner_);
+    if (!chosen.isValid())
+        return std::nullopt;
+    return bgrFromColor(chosen);
+}
+
+std::optional<FontChoice> QtUserDialogs::chooseFont(const QString& family, double pointSize)
+{
+    QFont initial(family);
+    if (pointSize > 0)
+        initial.setPointSizeF(pointSize);
+    bool accepted = false;
+    const QFont chosen = QFontDialog::getFont(&accepted, initial, owner_);
+    if (!accepted)
+        return std::nullopt;
+    return FontChoice{chosen.family(), chosen.pointSizeF()};
 }
 
 } // namespace lumen

@@ -32,6 +32,8 @@ public:
     std::optional<QString> saveFileName(const QString& title, const QString& startPath,
                                         const QString& filter) override;
     QString browseForFolder(const QString& title, const QString& startPath) override;
+    std::optional<qint32> chooseColor(qint32 initialBgr) override;
+    std::optional<FontChoice> chooseFont(const QString& family, double pointSize) override;
 
     FormMessage* formMessage();
 

@@ -13,6 +13,12 @@ inline constexpr int kAnswerOk = 1;
 inline constexpr int kAnswerYes = 6;
 inline constexpr int kAnswerNo = 7;
 
+// What the font dialog hands back.
+struct FontChoice {
+    QString family;
+    double pointSize = 0;
+};
+
 // The title of message boxes that name none.
 inline const QString kDefaultTitle = QStringLiteral("Lumenta_KDR");
 
@@ -40,6 +46,12 @@ public:
                                                 const QString& filter) = 0;
     // A folder, or "" on cancel.
     virtual QString browseForFolder(const QString& title, const QString& startPath) = 0;
+
+    // The colour dialog, opened on a BGR colour; the chosen colour, or
+    // nothing on cancel.
+    virtual std::optional<qint32> chooseColor(qint32 initialBgr) = 0;
+    // The font dialog, opened on a family and size; nothing on cancel.
+    virtual std::optional<FontChoice> chooseFont(const QString& family, double pointSize) = 0;
 };
 
 // Qt's classic-filter translation: "(*.lst)|*.lst|(*.*)|*.*" becomes

@@ -42,8 +42,7 @@ void FormLumentaExit::Form_Load()
 void FormLumentaExit::CommandMainNormDisp_Click()
 {
     unload();
-    if (normalSize)
-        normalSize();
+    main_.FORMNORMALSIZE();
 }
 
 void FormLumentaExit::CommandEnd_Click()

@@ -18,7 +18,6 @@ class FormLumentaExit : public FormBase {
 public:
     FormLumentaExit(VeroProcedure_Basical& basics, FormMain& main, QWidget* parent = nullptr);
 
-    std::function<void()> normalSize; // FORMNORMALSIZE of the main window
     std::function<void()> unloadAllForms;
     std::function<void()> endProgram;
 

@@ -1,6 +1,7 @@
 // FormMain: its controls and how they are wired.
 #include "show/FormMain.h"
 
+#include "display/FormRightLeftNorm.h"
 #include "display/MediaPanel.h"
 #include "display/PictureBox.h"
 #include "display/PictureCache.h"
@@ -280,6 +281,8 @@ void FormMain::connectHandlers()
     connect(TextHeadName, &QLineEdit::textChanged, this, &FormMain::TextHeadName_Change);
     connect(CheckOriginalSize, &QCheckBox::clicked, this, &FormMain::Form_Resize);
     connect(CommandHatenaSettei, &QPushButton::clicked, this, &FormMain::CommandHatenaSettei_Click);
+    connect(CommandFull, &QPushButton::clicked, this, &FormMain::CommandFull_Click);
+    connect(CommandOption, &QPushButton::clicked, this, &FormMain::CommandOption_Click);
 
     connect(CommandRight, &QPushButton::clicked, this, &FormMain::CommandRight_Click);
     connect(CommandLeft, &QPushButton::clicked, this, &FormMain::CommandLeft_Click);
@@ -328,9 +331,9 @@ void FormMain::connectHandlers()
     });
 
     // Commands whose work isn't in this build yet stand disabled.
-    for (QWidget* command : std::initializer_list<QWidget*>{
-             CommandModPic, CommandSaveImage, CommandFull, CommandOption, CommandEdit,
-             CommandWriteCommentOnPic, CommandMakeHTML}) {
+    for (QWidget* command :
+         std::initializer_list<QWidget*>{CommandModPic, CommandSaveImage, CommandEdit,
+                                         CommandWriteCommentOnPic, CommandMakeHTML}) {
         command->setEnabled(false);
         command->setToolTip(QStringLiteral("準備中"));
     }
@@ -381,14 +384,21 @@ void FormMain::Picture3_MouseUp(QWidget* picture, Qt::MouseButton button, float 
     if (picture != Picture3)
         return;
     if (state_.AutoPageOn) {
-        if (links.stopAutoPage)
-            links.stopAutoPage();
+        stopAutoPage();
         showWindow(QStringLiteral("FormOption"));
     }
     if (isMaximized()) {
-        if (FormBase* navigator = forms_.form(QStringLiteral("FormRightLeftNorm")))
+        if (auto* navigator =
+                static_cast<FormRightLeftNorm*>(forms_.form(QStringLiteral("FormRightLeftNorm")))) {
             navigator->showForm();
+            navigator->HScroll1->setFocus();
+        }
     }
+}
+
+void FormMain::CommandOption_Click()
+{
+    showWindow(QStringLiteral("FormOption"));
 }
 
 bool FormMain::eventFilter(QObject* watched, QEvent* event)

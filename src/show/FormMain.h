@@ -33,13 +33,8 @@ struct FormMainLinks {
     std::function<void()> startWithFile;         // Form_Load, step 9
     std::function<void()> unloadAllForms;        // closing, in the fixed order
     std::function<void()> endProgram;            // End
-    std::function<void()> stopAutoPage;          // FormOption's CommandStop
-    std::function<void(int)> navigatorPage;      // the navigator's page bar
     std::function<void()> hideEditFrames;        // FormEdit's two entry frames
     std::function<void()> pasteCommentOnPicture; // CommandWriteCommentOnPic_Click
-    std::function<void()> commandFull;           // CommandFull_Click (whole-screen mode)
-    std::function<void()> formNormalSize;        // FORMNORMALSIZE (back to the normal layout)
-    std::function<void(int index)> callSetting;  // the set of an option word 8 to 22
 };
 
 class FormMain : public FormBase {
@@ -126,6 +121,15 @@ public:
     QString ForcedShowKind;
     bool FillMode = false;
     bool NormalMode = true;
+    // The window's rectangle in each mode, twips; both start at zero.
+    qint32 NormalWindowLeft = 0;
+    qint32 NormalWindowTop = 0;
+    qint32 NormalWindowWidth = 0;
+    qint32 NormalWindowHeight = 0;
+    qint32 FillWindowLeft = 0;
+    qint32 FillWindowTop = 0;
+    qint32 FillWindowWidth = 0;
+    qint32 FillWindowHeight = 0;
     bool PutPictureInImage =
         false; // no command sets it; PUTPICTUREINIMAGE works through CheckOriginalSize
 
@@ -154,6 +158,8 @@ public:
     void Form_Resize();
     void FormResizeNorMal();
     void FormResizeFill();
+    void CommandFull_Click();
+    void FORMNORMALSIZE();
     void OpenFileList(const QString& fileName);
     void CleareDisp(QString kind);
     void TakeMainAction();
@@ -202,6 +208,7 @@ public:
     void CommandIELeft_Click();
     void CommandIERight_Click();
     void Picture3_MouseUp(QWidget* picture, Qt::MouseButton button, float x, float y);
+    void CommandOption_Click();
 
 protected:
     void Form_Load() override;
@@ -218,6 +225,10 @@ private:
     void companionRule(bool skipWhenResizing);
     void showCommentWindow();
     void runOption(const QString& word);
+    void callSetting(int index);
+    void stopAutoPage();
+    void showNavigatorPage(int page);
+    void keepRectangle(qint32& left, qint32& top, qint32& width, qint32& height) const;
     void prepareNextPicture();
     QSize fittedSize(const QSize& picture) const;
     bool loadPageIntoPicture2(const QString& file);
@@ -251,6 +262,7 @@ private:
     MediaPanel* movie_ = nullptr; // a movie page plays over the web view
     double noTextWait_ = 1000;    // the list view's wait; CommandNoText sets it to 0
     bool inResize_ = false;
+    int lastStep_ = 1; // the direction of the last page turn: the neighbour prepared ahead
 };
 
 } // namespace lumen

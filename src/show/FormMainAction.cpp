@@ -18,6 +18,7 @@
 #include "platform/Media.h"
 #include "platform/UserDialogs.h"
 #include "settings/AutoStartTable.h"
+#include "settings/FormCommandConbo.h"
 #include "state/ProgramState.h"
 
 #include <QCheckBox>
@@ -280,12 +281,12 @@ void FormMain::runOption(const QString& word)
     }
     switch (index) {
     case kFormMaximamSize:
-        if (!FullOnNext && links.commandFull)
-            links.commandFull();
+        if (!FullOnNext)
+            CommandFull_Click();
         break;
     case kFormNormalSize:
-        if (!NormalOnNext && links.formNormalSize)
-            links.formNormalSize();
+        if (!NormalOnNext)
+            FORMNORMALSIZE();
         break;
     case kPictureScroll:
         CheckOriginalSize->setChecked(true);
@@ -304,10 +305,25 @@ void FormMain::runOption(const QString& word)
         state_.DirecData.ListAutoStart = kFalse;
         break;
     default:
-        if (index >= kCommentSet1 && index < kCommentSet1 + 15 && links.callSetting)
-            links.callSetting(index);
+        if (index >= kCommentSet1 && index < kWith)
+            callSetting(index);
         break;
     }
+}
+
+void FormMain::callSetting(int index)
+{
+    // The sets of the option words are the files of their English names.
+    auto* conbo = static_cast<FormCommandConbo*>(forms_.form(QStringLiteral("FormCommandConbo")));
+    if (!conbo)
+        return;
+    const QString file = englishCommandWords().value(index) + QStringLiteral(".DAT");
+    if (index < kTextSet1)
+        conbo->CallCommentSetting(file);
+    else if (index < kPictBackCol1)
+        conbo->CallTextSetting(file);
+    else
+        conbo->CallPictureBackColor(file);
 }
 
 // ---- Kinds of page ------------------------------------------------------------

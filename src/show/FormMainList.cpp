@@ -53,8 +53,8 @@ void FormMain::OpenFileList(const QString& fileName)
     NormalOnNext = true;
     for (const char* name : {"FormOption", "FormEdit", "FormComment"})
         forms_.unload(QString::fromLatin1(name));
-    if (state_.AutoPageOn && links.stopAutoPage)
-        links.stopAutoPage();
+    if (state_.AutoPageOn)
+        stopAutoPage();
 
     basics_.WaitMilliseconds(100);
     if (count == 0)
@@ -199,8 +199,7 @@ void FormMain::TextCount_Change()
     ScrollGuard = true;
     const int page = int(Val(TextCount->text()));
     HScrollPicNom->setValue(page);
-    if (links.navigatorPage)
-        links.navigatorPage(page);
+    showNavigatorPage(page);
 }
 
 void FormMain::TextTotal_Change()

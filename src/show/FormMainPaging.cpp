@@ -36,6 +36,7 @@ void FormMain::step(int direction)
     if (links.hideEditFrames)
         links.hideEditFrames();
     ScrollGuard = true;
+    lastStep_ = direction;
     const bool forward = direction > 0;
     if (!StoreInt16(state_.PicNo, double(state_.PicNo) + direction))
         return;

@@ -351,11 +351,13 @@ namespace lumen {
 
 void FormMain::prepareNextPicture()
 {
-    // The next page's picture decodes off the interface thread at the size it
-    // will be shown, while this page is looked at.
-    if (CheckOriginalSize->isChecked() || state_.PicNo >= FileCount)
+    // The next page's picture (the one before, when the pages go back)
+    // decodes off the interface thread at the size it will be shown, while
+    // this page is looked at.
+    const int page = state_.PicNo + (lastStep_ < 0 ? -1 : 1);
+    if (CheckOriginalSize->isChecked() || page < 1 || page > FileCount)
         return;
-    const QString next = state_.ListArray.at(kColMain, state_.PicNo + 1);
+    const QString next = state_.ListArray.at(kColMain, page);
     if (CheckExtHat(next, state_.ExtTypeArray, TextAsAvi) != QLatin1String("PIC"))
         return;
     const QString native = nativeOf(next);

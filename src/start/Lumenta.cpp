@@ -135,6 +135,7 @@ void Lumenta::registerForms()
         return access;
     });
     registerShowForms();
+    registerAutoPageForms();
     forms_.add(QStringLiteral("FormLumentaExit"), [this]() -> FormBase* {
         auto* exit = new FormLumentaExit(basics_, formMain());
         exit->unloadAllForms = [this] { UnloadAllForms(); };

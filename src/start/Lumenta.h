@@ -7,6 +7,7 @@
 #include "fileops/VeroProcedure_Basical.h"
 #include "platform/FormRegistry.h"
 #include "platform/Services.h"
+#include "settings/SetTargets.h"
 #include "state/ProgramState.h"
 
 #include <QStringList>
@@ -49,6 +50,8 @@ public:
 private:
     void registerForms();
     void registerShowForms();
+    void registerAutoPageForms(); // LumentaShowForms.cpp
+    SetTargets setTargets();
     void openOneFile(const QString& file);
     void readSmallSettingsFiles();
     QString settingsFile(const QString& name) const;

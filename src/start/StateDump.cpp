@@ -59,9 +59,29 @@ QString StateDump::text() const
         lines << box->objectName() + QLatin1Char('=') + box->text();
     lines << QStringLiteral("PicNo=") + QString::number(app_.state().PicNo);
     lines << QStringLiteral("ListReady=") + (app_.state().ListReady ? "True" : "False");
+    lines << QStringLiteral("AutoPageOn=") + (app_.state().AutoPageOn ? "True" : "False");
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && !window->objectName().isEmpty())
-            lines << QStringLiteral("Shown=") + window->objectName();
+        if (!window->isVisible() || window->objectName().isEmpty())
+            continue;
+        const QRect place = window->frameGeometry();
+        lines << QStringLiteral("Shown=") + window->objectName();
+        lines << QStringLiteral("Window.%1=%2 %3 %4 %5")
+                     .arg(window->objectName())
+                     .arg(place.x())
+                     .arg(place.y())
+                     .arg(place.width())
+                     .arg(place.height());
+        for (const char* name : {"CommandFull", "CommandOption", "CommandExit", "CommandStart",
+                                 "CommandStop", "CommandToNormalSize"}) {
+            const auto* button = window->findChild<QWidget*>(QString::fromLatin1(name));
+            if (!button || !button->isVisible() || button->window() != window)
+                continue;
+            const QPoint centre = button->mapToGlobal(button->rect().center());
+            lines << QStringLiteral("Click.%1.%2=%3 %4")
+                         .arg(window->objectName(), QString::fromLatin1(name))
+                         .arg(centre.x())
+                         .arg(centre.y());
+        }
     }
     return lines.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n");
 }

@@ -1,7 +1,9 @@
 // A diagnostic for people and for the whole-program test: on SIGUSR1 the
 // program writes StateDump.txt in its settings folder, one line per field of
-// the main window ("TextFileName=C:\pics\a.jpg") and the titles of the
-// windows on show. Nothing else reads or changes state.
+// the main window ("TextFileName=C:\pics\a.jpg"), the windows on show with
+// their place on the screen, and the centres of the buttons of the running
+// show that are on show, for a test to click. Nothing else reads or changes
+// state.
 #pragma once
 
 #include <QObject>

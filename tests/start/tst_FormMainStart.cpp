@@ -3,10 +3,8 @@
 #include "platform/FormBase.h"
 #include "settings/SendToList.h"
 #include "show/FormMain.h"
+#include "start/AppFixture.h"
 #include "start/Lumenta.h"
-#include "support/FakeMedia.h"
-#include "support/Fakes.h"
-#include "support/TestHome.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
@@ -16,46 +14,6 @@
 
 using namespace lumen;
 using namespace lumen::test;
-
-namespace {
-
-struct App {
-    TestHome home;
-    FakeClock clock;
-    FakeDialogs ui;
-    FakeLauncher launcher;
-    FakeMedia media;
-    Services services{clock, ui, launcher, home.fs, media};
-    std::unique_ptr<Lumenta> app;
-    int quits = 0;
-
-    // `names` are relative to the temporary home, as the shell would give them.
-    explicit App(const QStringList& names = QStringList(), bool pastFirstStart = true)
-    {
-        QStringList arguments;
-        for (const QString& name : names)
-            arguments << home.native(name);
-        if (pastFirstStart) {
-            DirecDataRecord record;
-            record.CommentFontName = QStringLiteral("MS UI Gothic");
-            home.makeFolder("Lumentas/ForProgramRun_KDR");
-            writeDirecData(home.native("Lumentas/ForProgramRun_KDR/DirecData.ran"), record);
-        }
-        app = std::make_unique<Lumenta>(services, arguments, home.native("bin/lumenta"));
-        app->quit = [this] { ++quits; };
-    }
-    QByteArray settings(const char* name) const
-    {
-        return home.readFile(QStringLiteral("Lumentas/ForProgramRun_KDR/") + name);
-    }
-    bool shown(const QString& name) const
-    {
-        FormBase* form = app->forms().existing(name);
-        return form && form->isVisible();
-    }
-};
-
-} // namespace
 
 class TestFormMainStart : public QObject {
     Q_OBJECT

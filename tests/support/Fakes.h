@@ -62,6 +62,17 @@ public:
                                         const QString& filter) override;
     QString browseForFolder(const QString& title, const QString& startPath) override;
 
+    QQueue<std::optional<qint32>> colors;    // answers of the colour dialog
+    QQueue<std::optional<FontChoice>> fonts; // answers of the font dialog
+    std::optional<qint32> chooseColor(qint32) override
+    {
+        return colors.isEmpty() ? std::nullopt : colors.dequeue();
+    }
+    std::optional<FontChoice> chooseFont(const QString&, double) override
+    {
+        return fonts.isEmpty() ? std::nullopt : fonts.dequeue();
+    }
+
     QStringList dialogStarts;  // start paths the file and folder dialogs were given
     QStringList dialogFilters; // filters the file dialogs were given
 };

@@ -1,0 +1,86 @@
+// The whole application over the fakes: Lumenta with its real windows and
+// links, a temporary home past its first start, and helpers that make pages.
+#pragma once
+
+#include "platform/FormBase.h"
+#include "show/FormMain.h"
+#include "start/Lumenta.h"
+#include "support/FakeMedia.h"
+#include "support/Fakes.h"
+#include "support/TestHome.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+
+namespace lumen::test {
+
+struct App {
+    TestHome home;
+    FakeClock clock;
+    FakeDialogs ui;
+    FakeLauncher launcher;
+    FakeMedia media;
+    Services services{clock, ui, launcher, home.fs, media};
+    std::unique_ptr<Lumenta> app;
+    int quits = 0;
+
+    // `names` are relative to the temporary home, as the shell would give them.
+    explicit App(const QStringList& names = QStringList(), bool pastFirstStart = true,
+                 const DirecDataRecord& record = defaultRecord())
+    {
+        QStringList arguments;
+        for (const QString& name : names)
+            arguments << home.native(name);
+        if (pastFirstStart) {
+            home.makeFolder("Lumentas/ForProgramRun_KDR");
+            writeDirecData(home.native("Lumentas/ForProgramRun_KDR/DirecData.ran"), record);
+        }
+        app = std::make_unique<Lumenta>(services, arguments, home.native("bin/lumenta"));
+        app->quit = [this] { ++quits; };
+    }
+    static DirecDataRecord defaultRecord()
+    {
+        DirecDataRecord record;
+        record.CommentFontName = QStringLiteral("MS UI Gothic");
+        return record;
+    }
+    QByteArray settings(const char* name) const
+    {
+        return home.readFile(QStringLiteral("Lumentas/ForProgramRun_KDR/") + name);
+    }
+    bool shown(const QString& name) const
+    {
+        FormBase* form = app->forms().existing(name);
+        return form && form->isVisible();
+    }
+    template <class T> T* form(const char* name)
+    {
+        return static_cast<T*>(app->forms().form(QString::fromLatin1(name)));
+    }
+    FormMain& main() { return app->formMain(); }
+
+    // A picture of `w` by `h` pixels under the home; its program-form path.
+    QString picture(const QString& relative, int w = 40, int h = 30)
+    {
+        QImage image(w, h, QImage::Format_RGB32);
+        image.fill(QColor(90, 140, 200));
+        const QString native = home.native(relative);
+        QDir().mkpath(QFileInfo(native).path());
+        image.save(native);
+        return QStringLiteral("C:\\") +
+               QString(relative).replace(QLatin1Char('/'), QLatin1Char('\\'));
+    }
+    // Starts the program and opens the list at once (no half-minute view).
+    void openList(const QStringList& lines)
+    {
+        home.writeFile(QStringLiteral("show.lst"), lines.join(QStringLiteral("\r\n")).toUtf8());
+        app->Main();
+        main().resize(800, 580);
+        main().CheckQuiCkWork->setChecked(true);
+        main().OpenFileList(QStringLiteral("C:\\show.lst"));
+    }
+};
+
+} // namespace lumen::test
