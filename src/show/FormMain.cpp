@@ -296,6 +296,8 @@ void FormMain::connectHandlers()
     CommandScrollSizeAllowValue->installEventFilter(this);
     connect(CommandSendTo, &QPushButton::clicked, this,
             [this] { showWindow(QStringLiteral("FormSendTo")); });
+    connect(CommandMakeHTML, &QPushButton::clicked, this,
+            [this] { showWindow(QStringLiteral("FormMakeHTML")); });
     connect(CommandIELeft, &QPushButton::clicked, this, &FormMain::CommandIELeft_Click);
     connect(CommandIERight, &QPushButton::clicked, this, &FormMain::CommandIERight_Click);
     Text1->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -328,9 +330,9 @@ void FormMain::connectHandlers()
     });
 
     // Commands whose work isn't in this build yet stand disabled.
-    for (QWidget* command : std::initializer_list<QWidget*>{
-             CommandModPic, CommandSaveImage, CommandFull, CommandOption, CommandEdit,
-             CommandWriteCommentOnPic, CommandMakeHTML}) {
+    for (QWidget* command :
+         std::initializer_list<QWidget*>{CommandModPic, CommandSaveImage, CommandFull,
+                                         CommandOption, CommandEdit, CommandWriteCommentOnPic}) {
         command->setEnabled(false);
         command->setToolTip(QStringLiteral("準備中"));
     }
