@@ -4,6 +4,7 @@
 #include "fileops/VeroProcedure_Basical.h"
 #include "platform/Basic.h"
 #include "platform/FileSystem.h"
+#include "platform/SafeFile.h"
 #include "state/ProgramState.h"
 
 #include <QUrl>
@@ -125,8 +126,11 @@ void SiteMaker::MakeOnePage(qint16 pageNumber)
         }
         page = SerchAndReplaceInPage(page, table.at(kColWord, row), value);
     }
-    basics_.WriteTextToFile(page, HtmlRootDir + QLatin1Char('\\') + HtmlPageDir +
-                                      QLatin1Char('\\') + pageName(pageNumber));
+    // Written as WriteTextToFile writes, the text and a line end, replacing
+    // the file; a site of thousands of pages doesn't wait on the disk for each.
+    const QString path =
+        HtmlRootDir + QLatin1Char('\\') + HtmlPageDir + QLatin1Char('\\') + pageName(pageNumber);
+    writeTextFileQuickly(basics_.services().fs.toNative(path), page + QStringLiteral("\r\n"));
 }
 
 } // namespace lumen

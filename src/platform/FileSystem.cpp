@@ -1,17 +1,21 @@
 #include "platform/FileSystem.h"
 
+#include "platform/FolderIndex.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QStringDecoder>
-#include <QTemporaryFile>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 
 namespace lumen {
@@ -79,16 +83,65 @@ bool listingLess(const QString& a, const QString& b)
 // byte order when there are several, "" when none.
 QString findIgnoringCase(const QString& folder, const QString& name)
 {
-    const QStringList entries = QDir(folder).entryList(
-        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
     QString best;
-    for (const QString& entry : entries) {
+    for (const QString& entry : FolderIndex::instance().entriesIgnoringCase(folder, name)) {
         if (entry.compare(name, Qt::CaseInsensitive) != 0 || !fitsProgramForm(entry))
             continue;
         if (best.isEmpty() || lessInByteOrder(entry, best))
             best = entry;
     }
     return best;
+}
+
+// The bytes of the file `source` into the new file `staged`, with the
+// source's mode bits; the kernel copies when it can. A failed copy leaves
+// no staged file.
+bool copyBytes(const QString& source, const QString& staged)
+{
+    const int in = ::open(QFile::encodeName(source).constData(), O_RDONLY | O_CLOEXEC);
+    if (in < 0)
+        return false;
+    struct stat info {};
+    const QByteArray stagedName = QFile::encodeName(staged);
+    ::unlink(stagedName.constData()); // a leftover of a copy that was cut short
+    const int out = ::fstat(in, &info) == 0
+                        ? ::open(stagedName.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
+                                 info.st_mode & 07777)
+                        : -1;
+    bool ok = out >= 0;
+    bool kernelCopy = true;
+    while (ok) {
+        ssize_t copied = kernelCopy ? ::copy_file_range(in, nullptr, out, nullptr, 1 << 30, 0) : -1;
+        if (copied < 0 && kernelCopy &&
+            (errno == EXDEV || errno == ENOSYS || errno == EINVAL || errno == EOPNOTSUPP)) {
+            kernelCopy = false;
+            continue;
+        }
+        if (!kernelCopy) {
+            char buffer[1 << 16];
+            copied = ::read(in, buffer, sizeof buffer);
+            for (ssize_t written = 0; copied > 0 && written < copied;) {
+                const ssize_t part = ::write(out, buffer + written, size_t(copied - written));
+                if (part <= 0) {
+                    copied = -1;
+                    break;
+                }
+                written += part;
+            }
+        }
+        if (copied <= 0) {
+            ok = copied == 0;
+            break;
+        }
+    }
+    if (out >= 0) {
+        ok = ::fchmod(out, info.st_mode & 07777) == 0 && ok;
+        ok = ::close(out) == 0 && ok;
+        if (!ok)
+            ::unlink(stagedName.constData());
+    }
+    ::close(in);
+    return ok;
 }
 
 // The entry of `folder` called `name`, exactly or else ignoring case.
@@ -490,19 +543,16 @@ bool FileSystem::copyFile(const QString& from, const QString& to)
     if (source.isEmpty() || target.isEmpty() || !QFileInfo(source).isFile() ||
         QFileInfo(target).isDir())
         return false;
-    // Copied beside the target (the kernel copies when it can), then renamed
-    // over it: the target is never half-written.
-    QTemporaryFile temporary(target + QStringLiteral(".XXXXXX"));
-    if (!temporary.open())
-        return false;
-    const QString staged = temporary.fileName();
-    temporary.close();
-    QFile::remove(staged);
-    if (!QFile::copy(source, staged))
+    // Copied to a hidden file beside the target, then renamed over it: the
+    // target is never half-written.
+    const QFileInfo targetInfo(target);
+    const QString staged = targetInfo.path() + QStringLiteral("/.") + targetInfo.fileName() +
+                           QStringLiteral(".%1.copy").arg(::getpid());
+    if (!copyBytes(source, staged))
         return false;
     if (::rename(QFile::encodeName(staged).constData(), QFile::encodeName(target).constData()) !=
         0) {
-        QFile::remove(staged);
+        ::unlink(QFile::encodeName(staged).constData());
         return false;
     }
     return true;
