@@ -15,7 +15,7 @@ constexpr int kHeight = 32;
 QImage keyFace()
 {
     QImage image(kWidth, kHeight, QImage::Format_RGB32);
-    image.fill(QColor(0xC0, 0xC0, 0xC0));
+    image.fill(QColor(0x80, 0x80, 0x80)); // the ground of a page of the default settings
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     QLinearGradient face(0, 0, 0, kHeight);

@@ -93,7 +93,9 @@ void ConvertWavToMp3(VeroProcedure_Basical& basics, const QString& wavPath, cons
     const QByteArray input = fs.toNative(wavPath).toLocal8Bit();
     const SoundFile sound(input.isEmpty() ? nullptr : sf_open(input.constData(), SFM_READ, &info));
     if (!sound) {
-        ui.msgBox(kMp3InputMessage);
+        // A file that can't be read is told apart from one in no known format.
+        const bool unreadable = input.isEmpty() || sf_error(nullptr) == SF_ERR_SYSTEM;
+        ui.msgBox(unreadable ? kMp3InputMessage : kMp3SetupMessage);
         return;
     }
     const QString output = fs.toNative(mp3Path);

@@ -20,9 +20,10 @@ inline const QString kMp3FrameMessage = QStringLiteral("エラーが発生しま
 int Mp3BitRate(qint16 percent);
 
 // Paths in program form. No result: the MP3 file is the result. An input
-// that can't be opened gives the first message, a set-up the encoder
-// refuses (a rate MPEG-1 doesn't know, an output that can't be written, a
-// sound of more than two channels) the second, a failed frame the third;
+// that can't be opened gives the first message; an input in no known format
+// or a set-up the encoder refuses (a rate MPEG-1 doesn't know, an output
+// that can't be written, more than two channels) the second; a failed frame
+// the third;
 // after a message no file is left behind. The target is written whole or
 // not at all.
 void ConvertWavToMp3(VeroProcedure_Basical& basics, const QString& wavPath, const QString& mp3Path,
