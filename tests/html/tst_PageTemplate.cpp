@@ -59,9 +59,6 @@ void TestPageTemplate::comment_data()
                                                << QStringList();
     QTest::newRow("mark at 5 names a file") << "abcd<<<<<\r\nX" << false << "[] 5\r\n"
                                             << QStringList{"ファイルが見つかりません。"};
-    QTest::newRow("a file, its lines parted by <BR>")
-        << "C:\\note.txt" << false << "[First<BR>Second] 5\r\n"
-        << QStringList();
     // Row 15 comes after row 7, so its word in the comment is replaced too.
     QTest::newRow("a later word in the comment")
         << "<<<<<\r\n総ページ数 pages" << false << "[ 5 pages] 5\r\n"

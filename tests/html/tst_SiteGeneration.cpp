@@ -58,66 +58,51 @@ void TestSiteGeneration::site_data()
     const QStringList buttons = {"data/button/blanc.bmp", "data/button/head.bmp",
                                  "data/button/left.bmp",  "data/button/oya.bmp",
                                  "data/button/right.bmp", "data/button/tail.bmp"};
+    const QStringList page1 = {
+        "<HTML><HEAD>",
+        "<TITLE>Lumenta_KDR</TITLE>",
+        "</HEAD>",
+        "<BODY BGCOLOR=\"#808080\"> ",
+        "<CENTER>",
+        "<A HREF=\"../../index_kodar.html\"><IMG SRC=\"../button/oya.bmp\" BORDER=\"0\"></A>",
+        "<A HREF=\"page1.html\"><IMG SRC=\"../button/head.bmp\" BORDER=\"0\"></A>",
+        "<A HREF=\"page1.html\"><IMG SRC=\"../button/left.bmp\" BORDER=\"0\"></A>",
+        ".....<STRONG><FONT SIZE=\"5\"><FONT COLOR=\"#FF0000\">",
+        "1 of  3</FONT></STRONG></FONT>",
+        ".....<A HREF=\"page2.html\"><IMG SRC=\"../button/right.bmp\" BORDER=\"0\"></A>",
+        "<A HREF=\"page6.html\"><IMG SRC=\"../button/tail.bmp\" BORDER=\"0\"></A><BR>",
+        "<FONT COLOR=\"#000000\">",
+        "Hello",
+        "World",
+        "</FONT>",
+        "<BR><P><IMG SRC=\"../media/Red.PNG\" BORDER=\"0\">",
+        "<BR>",
+        "<BGSOUND SRC=../media/voice.wav LOOP=\"1\">",
+        "</CENTER></BODY BGCOLOR></HTML>",
+        ""};
     // Without the delete option new folders are made lower-case anyway.
     QTest::newRow("window defaults")
         << false << buttons + QStringList{"data/html/page1.html", "data/html/page2.html",
                                           "data/html/page3.html", "data/html/page4.html",
                                           "data/media/Blue.png",  "data/media/Red.PNG",
                                           "data/media/story.txt", "data/media/voice.wav"}
-        << QStringList{"<HTML><HEAD>",
-                       "<TITLE>Lumenta_KDR</TITLE>",
-                       "</HEAD>",
-                       "<BODY BGCOLOR=\"#808080\"> ",
-                       "<CENTER>",
-                       "<A HREF=\"../../index_kodar.html\"><IMG SRC=\"../button/oya.bmp\" "
-                       "BORDER=\"0\"></A>",
-                       "<A HREF=\"page1.html\"><IMG SRC=\"../button/head.bmp\" BORDER=\"0\"></A>",
-                       "<A HREF=\"page1.html\"><IMG SRC=\"../button/left.bmp\" BORDER=\"0\"></A>",
-                       ".....<STRONG><FONT SIZE=\"5\"><FONT COLOR=\"#FF0000\">",
-                       "1 of  3</FONT></STRONG></FONT>",
-                       ".....<A HREF=\"page2.html\"><IMG SRC=\"../button/right.bmp\" "
-                       "BORDER=\"0\"></A>",
-                       "<A HREF=\"page6.html\"><IMG SRC=\"../button/tail.bmp\" "
-                       "BORDER=\"0\"></A><BR>",
-                       "<FONT COLOR=\"#000000\">",
-                       "Hello",
-                       "World",
-                       "</FONT>",
-                       "<BR><P><IMG SRC=\"../media/Red.PNG\" BORDER=\"0\">",
-                       "<BR>",
-                       "<BGSOUND SRC=../media/voice.wav LOOP=\"1\">",
-                       "</CENTER></BODY BGCOLOR></HTML>",
-                       ""}
+        << page1
         << QStringList{"Note one<BR>Note two", "<BR>Once<BR>upon", "<BGSOUND SRC= LOOP=\"1\">"};
+    // Links lower-case, the parent's address and the page files not.
+    QStringList lower = page1;
+    lower[5] = "<A HREF=\"http://Example.COM/Index.html\"><IMG SRC=\"../button/oya.bmp\" "
+               "BORDER=\"0\"></A>";
+    lower[8] = ".....<STRONG><FONT SIZE=\"5\"><FONT COLOR=\"#ff0000\">";
+    lower[13] = "hello";
+    lower[14] = "world";
+    lower[16] = "<BR><P><IMG SRC=\"../media/red.png\" BORDER=\"0\">";
+    lower[18] = "<BGSOUND SRC=../media/voice.mp3 LOOP=\"1\">";
     QTest::newRow("lower-case, delete, MP3")
         << true << buttons + QStringList{"data/html/Page1.html", "data/html/Page2.html",
                                          "data/html/Page3.html", "data/html/Page4.html",
                                          "data/media/blue.png",  "data/media/red.png",
                                          "data/media/story.txt", "data/media/voice.mp3"}
-        << QStringList{"<HTML><HEAD>",
-                       "<TITLE>Lumenta_KDR</TITLE>",
-                       "</HEAD>",
-                       "<BODY BGCOLOR=\"#808080\"> ",
-                       "<CENTER>",
-                       "<A HREF=\"http://Example.COM/Index.html\"><IMG SRC=\"../button/oya.bmp\" "
-                       "BORDER=\"0\"></A>",
-                       "<A HREF=\"page1.html\"><IMG SRC=\"../button/head.bmp\" BORDER=\"0\"></A>",
-                       "<A HREF=\"page1.html\"><IMG SRC=\"../button/left.bmp\" BORDER=\"0\"></A>",
-                       ".....<STRONG><FONT SIZE=\"5\"><FONT COLOR=\"#ff0000\">",
-                       "1 of  3</FONT></STRONG></FONT>",
-                       ".....<A HREF=\"page2.html\"><IMG SRC=\"../button/right.bmp\" "
-                       "BORDER=\"0\"></A>",
-                       "<A HREF=\"page6.html\"><IMG SRC=\"../button/tail.bmp\" "
-                       "BORDER=\"0\"></A><BR>",
-                       "<FONT COLOR=\"#000000\">",
-                       "hello",
-                       "world",
-                       "</FONT>",
-                       "<BR><P><IMG SRC=\"../media/red.png\" BORDER=\"0\">",
-                       "<BR>",
-                       "<BGSOUND SRC=../media/voice.mp3 LOOP=\"1\">",
-                       "</CENTER></BODY BGCOLOR></HTML>",
-                       ""}
+        << lower
         << QStringList{"note one<br>note two", "<BR>once<br>upon", "<BGSOUND SRC= LOOP=\"1\">"};
 }
 

@@ -33,6 +33,15 @@ QImage screenshot(const QString& page, const QString& name)
     return QImage(shot);
 }
 
+template <typename Test> qsizetype pixels(const QImage& image, int fromLine, Test test)
+{
+    qsizetype count = 0;
+    for (int y = fromLine; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += test(image.pixelColor(x, y)) ? 1 : 0;
+    return count;
+}
+
 } // namespace
 
 class TestSiteInBrowser : public QObject {
@@ -53,28 +62,15 @@ void TestSiteInBrowser::firstPageShows()
 
     const QImage first = screenshot(s.f.home.native("data/html/page1.html"), "site_page1.png");
     QVERIFY(!first.isNull());
-    qsizetype photoPixels = 0;
-    qsizetype buttonPixels = 0;
-    for (int y = 0; y < first.height(); ++y) {
-        for (int x = 0; x < first.width(); ++x) {
-            const QColor c = first.pixelColor(x, y);
-            if (c == photo)
-                ++photoPixels;
-            else if (c.blue() > c.red() + 60 && c.blue() > c.green() + 30)
-                ++buttonPixels; // the blue face of the built-in keys
-        }
-    }
-    QVERIFY2(photoPixels >= 320 * 200 * 9 / 10, qPrintable(QString::number(photoPixels)));
+    QVERIFY(pixels(first, 0, [&](QColor c) { return c == photo; }) >= 320 * 200 * 9 / 10);
     // Five keys of 48 x 32, the blue of each more than half its face.
-    QVERIFY2(buttonPixels >= 5 * 48 * 32 / 2, qPrintable(QString::number(buttonPixels)));
+    const auto blue = [](QColor c) { return c.blue() > c.red() + 60 && c.blue() > c.green() + 30; };
+    QVERIFY(pixels(first, 0, blue) >= 5 * 48 * 32 / 2);
 
-    // The text page finds its blank picture by its absolute address.
+    // The text page finds its blank picture by its absolute address. Below
+    // the row of keys, whose figures are white too.
     const QImage second = screenshot(s.f.home.native("data/html/page2.html"), "site_page2.png");
-    qsizetype white = 0; // below the row of keys, whose figures are white too
-    for (int y = 60; y < second.height(); ++y)
-        for (int x = 0; x < second.width(); ++x)
-            white += second.pixelColor(x, y) == QColor(Qt::white) ? 1 : 0;
-    QCOMPARE(white, 32 * 32);
+    QCOMPARE(pixels(second, 60, [](QColor c) { return c == Qt::white; }), 32 * 32);
 }
 
 QTEST_GUILESS_MAIN(TestSiteInBrowser)

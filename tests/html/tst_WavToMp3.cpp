@@ -68,30 +68,11 @@ int headerRate(const QByteArray& mp3)
 class TestWavToMp3 : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void bitRate_data();
-    void bitRate();
     void converts_data();
     void converts();
     void refused_data();
     void refused();
 };
-
-void TestWavToMp3::bitRate_data()
-{
-    QTest::addColumn<int>("percent");
-    QTest::addColumn<int>("rate");
-    QTest::newRow("default 20") << 20 << 32;
-    QTest::newRow("10") << 10 << 16;
-    QTest::newRow("33 cut towards zero") << 33 << 52;
-    QTest::newRow("100") << 100 << 160;
-    QTest::newRow("0") << 0 << 0;
-    QTest::newRow("-1 cut towards zero") << -1 << -1;
-}
-
-void TestWavToMp3::bitRate()
-{
-    QCOMPARE(Mp3BitRate(qint16(FETCH(int, percent))), FETCH(int, rate));
-}
 
 void TestWavToMp3::converts_data()
 {
