@@ -1,17 +1,19 @@
 #include "platform/FileSystem.h"
 
+#include "platform/FolderIndex.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QStringDecoder>
-#include <QTemporaryFile>
 
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 
 namespace lumen {
@@ -79,16 +81,29 @@ bool listingLess(const QString& a, const QString& b)
 // byte order when there are several, "" when none.
 QString findIgnoringCase(const QString& folder, const QString& name)
 {
-    const QStringList entries = QDir(folder).entryList(
-        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
     QString best;
-    for (const QString& entry : entries) {
+    for (const QString& entry : FolderIndex::instance().entriesIgnoringCase(folder, name)) {
         if (entry.compare(name, Qt::CaseInsensitive) != 0 || !fitsProgramForm(entry))
             continue;
         if (best.isEmpty() || lessInByteOrder(entry, best))
             best = entry;
     }
     return best;
+}
+
+// The bytes of the file `source` into the new file `staged`, with the
+// source's mode bits; the kernel copies (sendfile). A failed copy leaves no
+// staged file.
+bool copyBytes(const QString& source, const QString& staged)
+{
+    const std::filesystem::path to(QFile::encodeName(staged).constData());
+    std::error_code error;
+    std::filesystem::remove(to, error); // a leftover of a copy that was cut short
+    std::filesystem::copy_file(QFile::encodeName(source).constData(), to, error);
+    if (!error)
+        return true;
+    std::filesystem::remove(to, error);
+    return false;
 }
 
 // The entry of `folder` called `name`, exactly or else ignoring case.
@@ -490,25 +505,16 @@ bool FileSystem::copyFile(const QString& from, const QString& to)
     if (source.isEmpty() || target.isEmpty() || !QFileInfo(source).isFile() ||
         QFileInfo(target).isDir())
         return false;
-    // Copied beside the target (the kernel copies when it can), then renamed
-    // over it: the target is never half-written.
-    QTemporaryFile temporary(target + QStringLiteral(".XXXXXX"));
-    if (!temporary.open())
+    // Copied to a hidden file beside the target, then renamed over it: the
+    // target is never half-written.
+    const QFileInfo targetInfo(target);
+    const QString staged = targetInfo.path() + QStringLiteral("/.") + targetInfo.fileName() +
+                           QStringLiteral(".%1.copy").arg(::getpid());
+    if (!copyBytes(source, staged))
         return false;
-    const QString staged = temporary.fileName();
-    temporary.close();
-    // The kernel copies the bytes (sendfile), and the mode bits come along.
-    std::error_code error;
-    std::filesystem::copy_file(QFile::encodeName(source).constData(),
-                               QFile::encodeName(staged).constData(),
-                               std::filesystem::copy_options::overwrite_existing, error);
-    if (error) {
-        QFile::remove(staged);
-        return false;
-    }
     if (::rename(QFile::encodeName(staged).constData(), QFile::encodeName(target).constData()) !=
         0) {
-        QFile::remove(staged);
+        ::unlink(QFile::encodeName(staged).constData());
         return false;
     }
     return true;

@@ -2,9 +2,12 @@
 
 #include "platform/TextCodec.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
+#include <cstdio>
 #include <utility>
 
 namespace lumen {
@@ -36,6 +39,30 @@ bool writeFileSafely(const QString& nativePath, const QByteArray& bytes)
 bool writeTextFileSafely(const QString& nativePath, const QString& text)
 {
     return writeFileSafely(nativePath, text::encodeForFile(text));
+}
+
+bool writeFileQuickly(const QString& nativePath, const QByteArray& bytes)
+{
+    const QFileInfo target(nativePath);
+    const QString staged = target.path() + QStringLiteral("/.") + target.fileName() +
+                           QStringLiteral(".%1.part").arg(QCoreApplication::applicationPid());
+    QFile::remove(staged); // a leftover of a write that was cut short
+    QFile file(staged);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return false;
+    const bool written = file.write(bytes) == bytes.size();
+    file.close();
+    if (written && file.error() == QFileDevice::NoError &&
+        std::rename(QFile::encodeName(staged).constData(),
+                    QFile::encodeName(nativePath).constData()) == 0)
+        return true;
+    QFile::remove(staged);
+    return false;
+}
+
+bool writeTextFileQuickly(const QString& nativePath, const QString& text)
+{
+    return writeFileQuickly(nativePath, text::encodeForFile(text));
 }
 
 std::optional<QString> readTextFile(const QString& nativePath)

@@ -17,6 +17,13 @@ bool writeFileSafely(const QString& nativePath, const QByteArray& bytes);
 // safely. The text is written as given: callers add CR LF where they need it.
 bool writeTextFileSafely(const QString& nativePath, const QString& text);
 
+// The same without waiting for the disk to confirm the bytes: still never
+// half-written, for output that the program makes again at will (the pages
+// of a site), where a wait on the disk for each of thousands of files would
+// cost more than the work.
+bool writeFileQuickly(const QString& nativePath, const QByteArray& bytes);
+bool writeTextFileQuickly(const QString& nativePath, const QString& text);
+
 // Reads and decodes a whole text file; nothing when it can't be read.
 std::optional<QString> readTextFile(const QString& nativePath);
 

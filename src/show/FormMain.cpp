@@ -299,6 +299,8 @@ void FormMain::connectHandlers()
     CommandScrollSizeAllowValue->installEventFilter(this);
     connect(CommandSendTo, &QPushButton::clicked, this,
             [this] { showWindow(QStringLiteral("FormSendTo")); });
+    connect(CommandMakeHTML, &QPushButton::clicked, this,
+            [this] { showWindow(QStringLiteral("FormMakeHTML")); });
     connect(CommandIELeft, &QPushButton::clicked, this, &FormMain::CommandIELeft_Click);
     connect(CommandIERight, &QPushButton::clicked, this, &FormMain::CommandIERight_Click);
     Text1->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -331,9 +333,8 @@ void FormMain::connectHandlers()
     });
 
     // Commands whose work isn't in this build yet stand disabled.
-    for (QWidget* command :
-         std::initializer_list<QWidget*>{CommandModPic, CommandSaveImage, CommandEdit,
-                                         CommandWriteCommentOnPic, CommandMakeHTML}) {
+    for (QWidget* command : std::initializer_list<QWidget*>{
+             CommandModPic, CommandSaveImage, CommandEdit, CommandWriteCommentOnPic}) {
         command->setEnabled(false);
         command->setToolTip(QStringLiteral("準備中"));
     }

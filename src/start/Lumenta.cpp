@@ -8,6 +8,8 @@
 #include "display/FormRClick5.h"
 #include "fileops/FormStop.h"
 #include "fileops/WorkingFolders.h"
+#include "html/FormMakeHTML.h"
+#include "html/FormRichText.h"
 #include "list/FormHatenaDrive.h"
 #include "platform/Basic.h"
 #include "platform/Clock.h"
@@ -206,6 +208,18 @@ void Lumenta::registerShowForms()
         popup->currentFile = [this] { return formMain().TextFileName->text(); };
         popup->open = [this](const QString& file) { openOneFile(file); };
         return popup;
+    });
+    // The HTML picture book: its settings window and the template window.
+    forms_.add(QStringLiteral("FormMakeHTML"), [this]() -> FormBase* {
+        auto* make = new FormMakeHTML(basics_, forms_);
+        make->links.listTotal = [this] { return formMain().TextTotal->text(); };
+        make->links.clearDisplay = [this] { formMain().CleareDisp(QString()); };
+        make->links.unloadComment = [this] { forms_.unload(QStringLiteral("FormComment")); };
+        return make;
+    });
+    forms_.add(QStringLiteral("FormRichText"), [this]() -> FormBase* {
+        return new FormRichText(
+            basics_, *static_cast<FormMakeHTML*>(forms_.form(QStringLiteral("FormMakeHTML"))));
     });
 }
 
