@@ -23,8 +23,7 @@ using namespace basic;
 
 QLineEdit* makeText(const QString& name, const QString& text, QWidget* parent)
 {
-    auto* edit = new QLineEdit(text, parent);
-    edit->setObjectName(name);
+    auto* edit = named<QLineEdit>(name, text, parent);
     edit->setAlignment(Qt::AlignRight);
     return edit;
 }

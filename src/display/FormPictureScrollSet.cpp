@@ -20,8 +20,7 @@ using namespace basic;
 
 QLabel* label(const QString& name, const QString& caption, Qt::Alignment alignment, QWidget* parent)
 {
-    auto* text = new QLabel(caption, parent);
-    text->setObjectName(name);
+    auto* text = named<QLabel>(name, caption, parent);
     text->setAlignment(alignment | Qt::AlignVCenter);
     return text;
 }
@@ -48,8 +47,8 @@ FormPictureScrollSet::FormPictureScrollSet(VeroProcedure_Basical& basics, QWidge
                    Qt::AlignRight, this);
     Label4 = label(QStringLiteral("Label4"), QStringLiteral("画面より大きい画像はすぐ縮小"),
                    Qt::AlignLeft, this);
-    CommandWordSet = popupButton(QStringLiteral("CommandWordSet"), QStringLiteral("設定"), this);
-    CommandEnd = popupButton(QStringLiteral("CommandEnd"), QStringLiteral("終了"), this);
+    CommandWordSet = commandButton(QStringLiteral("CommandWordSet"), QStringLiteral("設定"), this);
+    CommandEnd = commandButton(QStringLiteral("CommandEnd"), QStringLiteral("終了"), this);
     setBackColor(CommandWordSet, kColorGrey);
 
     auto* grid = new QGridLayout(this);

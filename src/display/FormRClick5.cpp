@@ -3,6 +3,7 @@
 #include "display/PopupSupport.h"
 #include "fileops/VeroProcedure_Basical.h"
 #include "platform/Basic.h"
+#include "platform/Controls.h"
 #include "platform/FileSystem.h"
 #include "platform/Launcher.h"
 #include "platform/UserDialogs.h"
@@ -26,14 +27,14 @@ FormRClick5::FormRClick5(VeroProcedure_Basical& basics, QWidget* parent)
     , basics_(basics)
 {
     CommandShowAutoRun =
-        popupButton(QStringLiteral("CommandShowAutoRun"), QStringLiteral("Auto"), this);
-    CommandRecover = popupButton(QStringLiteral("CommandRecover"), QStringLiteral("復元"), this);
-    CommandDeleat = popupButton(QStringLiteral("CommandDeleat"), QStringLiteral("削除"), this);
+        commandButton(QStringLiteral("CommandShowAutoRun"), QStringLiteral("Auto"), this);
+    CommandRecover = commandButton(QStringLiteral("CommandRecover"), QStringLiteral("復元"), this);
+    CommandDeleat = commandButton(QStringLiteral("CommandDeleat"), QStringLiteral("削除"), this);
     CommandOpenEdit =
-        popupButton(QStringLiteral("CommandOpenEdit"), QStringLiteral("ｴﾃﾞｨﾀｰ"), this);
-    CommandSave = popupButton(QStringLiteral("CommandSave"), QStringLiteral("Save"), this);
-    CommandOpenSee = popupButton(QStringLiteral("CommandOpenSee"), QStringLiteral("Open"), this);
-    CommandClose = popupButton(QStringLiteral("CommandClose"), QString(), this);
+        commandButton(QStringLiteral("CommandOpenEdit"), QStringLiteral("ｴﾃﾞｨﾀｰ"), this);
+    CommandSave = commandButton(QStringLiteral("CommandSave"), QStringLiteral("Save"), this);
+    CommandOpenSee = commandButton(QStringLiteral("CommandOpenSee"), QStringLiteral("Open"), this);
+    CommandClose = commandButton(QStringLiteral("CommandClose"), QString(), this);
     CommandClose->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
 
     auto* grid = new QGridLayout(this);

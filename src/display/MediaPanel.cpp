@@ -42,8 +42,7 @@ protected:
 QToolButton* makeTransportButton(const QString& name, QStyle::StandardPixmap icon,
                                  const QString& tip, QWidget* parent)
 {
-    auto* button = new QToolButton(parent);
-    button->setObjectName(name);
+    auto* button = named<QToolButton>(name, parent);
     button->setIcon(parent->style()->standardIcon(icon));
     button->setToolTip(tip);
     button->setAutoRaise(true);

@@ -22,14 +22,6 @@ namespace {
 const QString kHtmlFilter = QStringLiteral("(*.html)|*.html|(*.*)|*.*");
 constexpr float kGap = 10; // twips between the frame and the text
 
-QPushButton* button(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* b = new QPushButton(caption, parent);
-    b->setObjectName(name);
-    b->setAutoDefault(false);
-    return b;
-}
-
 void colourRange(QTextEdit* edit, int from, int length, qint32 bgr)
 {
     QTextCursor cursor(edit->document());
@@ -51,13 +43,13 @@ FormRichText::FormRichText(VeroProcedure_Basical& basics, FormMakeHTML& owner, Q
     Frame1 = new QGroupBox(this);
     Frame1->setObjectName(QStringLiteral("Frame1"));
     CommandMakeSample =
-        button(QStringLiteral("CommandMakeSample"), QStringLiteral("←ｻﾝﾌﾟﾙ作成"), Frame1);
+        commandButton(QStringLiteral("CommandMakeSample"), QStringLiteral("←ｻﾝﾌﾟﾙ作成"), Frame1);
     CommandCheck =
-        button(QStringLiteral("CommandCheck"), QStringLiteral("↓チェックｷｰﾜｰﾄﾞ"), Frame1);
-    CommandDelSampleHtml = button(QStringLiteral("CommandDelSampleHtml"),
-                                  QStringLiteral("SampleHtml.html削除"), Frame1);
-    CommandSave = button(QStringLiteral("CommandSave"), QStringLiteral("保存"), Frame1);
-    CommandOpen = button(QStringLiteral("CommandOpen"), QStringLiteral("開く"), Frame1);
+        commandButton(QStringLiteral("CommandCheck"), QStringLiteral("↓チェックｷｰﾜｰﾄﾞ"), Frame1);
+    CommandDelSampleHtml = commandButton(QStringLiteral("CommandDelSampleHtml"),
+                                         QStringLiteral("SampleHtml.html削除"), Frame1);
+    CommandSave = commandButton(QStringLiteral("CommandSave"), QStringLiteral("保存"), Frame1);
+    CommandOpen = commandButton(QStringLiteral("CommandOpen"), QStringLiteral("開く"), Frame1);
     auto* row = new QHBoxLayout(Frame1);
     row->setContentsMargins(6, 6, 6, 6);
     for (QPushButton* b :

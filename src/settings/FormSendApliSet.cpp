@@ -28,13 +28,6 @@ const QString kAllPattern = QStringLiteral("*.*");
 const QString kShowAll = QStringLiteral("全部表示");
 const QString kShowPrograms = QStringLiteral("Exe表示");
 
-QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    return button;
-}
-
 } // namespace
 
 FormSendApliSet::FormSendApliSet(VeroProcedure_Basical& basics, QWidget* parent)
@@ -53,9 +46,10 @@ FormSendApliSet::FormSendApliSet(VeroProcedure_Basical& basics, QWidget* parent)
     Text1 = new QPlainTextEdit(this);
     Text1->setObjectName(QStringLiteral("Text1"));
     Text1->setLineWrapMode(QPlainTextEdit::NoWrap);
-    CommandDo = makeButton(QStringLiteral("CommandDo"), QStringLiteral("設定"), this);
-    CommandReset = makeButton(QStringLiteral("CommandReset"), QStringLiteral("初期設定"), this);
-    CommandExit = makeButton(QStringLiteral("CommandExit"), QStringLiteral("終了"), this);
+    CommandDo = named<QPushButton>(QStringLiteral("CommandDo"), QStringLiteral("設定"), this);
+    CommandReset =
+        named<QPushButton>(QStringLiteral("CommandReset"), QStringLiteral("初期設定"), this);
+    CommandExit = named<QPushButton>(QStringLiteral("CommandExit"), QStringLiteral("終了"), this);
     showProgramsOnly(true);
     layOut();
 

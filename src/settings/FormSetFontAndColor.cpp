@@ -21,21 +21,6 @@ namespace {
 
 using namespace basic;
 
-QPushButton* button(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* b = new QPushButton(caption, parent);
-    b->setObjectName(name);
-    b->setAutoDefault(false);
-    return b;
-}
-
-QLabel* label(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* l = new QLabel(caption, parent);
-    l->setObjectName(name);
-    return l;
-}
-
 // A colour button shows its colour; a field that isn't a number shows grey.
 void showColor(QPushButton* swatch, const QString& text)
 {
@@ -56,19 +41,21 @@ FormSetFontAndColor::FormSetFontAndColor(VeroProcedure_Basical& basics, SetTarge
     Combo1->setEditable(true);
     Combo1->setMinimumContentsLength(12);
     CommandSaveAs =
-        button(QStringLiteral("CommandSaveAs"), QStringLiteral("名前を付けて記憶"), this);
-    CommandFont = button(QStringLiteral("CommandFont"), QStringLiteral("ﾌｫﾝﾄ"), this);
-    LabelFont = label(QStringLiteral("LabelFont"), QString(), this);
-    CommandForeColor = button(QStringLiteral("CommandForeColor"), QString(), this);
-    LabelForeColor = label(QStringLiteral("LabelForeColor"), QStringLiteral("文字の色"), this);
-    CommandBackColor = button(QStringLiteral("CommandBackColor"), QString(), this);
-    LabelBackColor = label(QStringLiteral("LabelBackColor"), QStringLiteral("背景色"), this);
-    LabelSample = label(QStringLiteral("LabelSample"), QString(), this);
+        commandButton(QStringLiteral("CommandSaveAs"), QStringLiteral("名前を付けて記憶"), this);
+    CommandFont = commandButton(QStringLiteral("CommandFont"), QStringLiteral("ﾌｫﾝﾄ"), this);
+    LabelFont = named<QLabel>(QStringLiteral("LabelFont"), QString(), this);
+    CommandForeColor = commandButton(QStringLiteral("CommandForeColor"), QString(), this);
+    LabelForeColor =
+        named<QLabel>(QStringLiteral("LabelForeColor"), QStringLiteral("文字の色"), this);
+    CommandBackColor = commandButton(QStringLiteral("CommandBackColor"), QString(), this);
+    LabelBackColor =
+        named<QLabel>(QStringLiteral("LabelBackColor"), QStringLiteral("背景色"), this);
+    LabelSample = named<QLabel>(QStringLiteral("LabelSample"), QString(), this);
     LabelSample->setAlignment(Qt::AlignCenter);
     LabelSample->setFrameShape(QFrame::Box);
     LabelSample->setMinimumHeight(56);
-    CommandReset = button(QStringLiteral("CommandReset"), QStringLiteral("設定ｸﾘｱ"), this);
-    CommandExit = button(QStringLiteral("CommandExit"), QStringLiteral("終了"), this);
+    CommandReset = commandButton(QStringLiteral("CommandReset"), QStringLiteral("設定ｸﾘｱ"), this);
+    CommandExit = commandButton(QStringLiteral("CommandExit"), QStringLiteral("終了"), this);
     layOut();
 
     connect(CommandSaveAs, &QPushButton::clicked, this, &FormSetFontAndColor::CommandSaveAs_Click);

@@ -36,13 +36,6 @@ constexpr int kTimerMs = 1000;        // Timer1
 constexpr double kMediumPollMs = 100; // the wait for a medium's end, step by step
 constexpr int kTooMuch = 5;           // the bar may run five times its length
 
-QRadioButton* option(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* button = new QRadioButton(caption, parent);
-    button->setObjectName(name);
-    return button;
-}
-
 ClickLabel* image(const QString& name, QStyle::StandardPixmap pixmap, QWidget* parent)
 {
     auto* label = new ClickLabel(name, QString(), parent);
@@ -74,9 +67,10 @@ FormOption::FormOption(VeroProcedure_Basical& basics, FormMain& main, QWidget* p
     HScroll1->setRange(0, 60);
     HScroll1->setPageStep(5);
 
-    OptionFowerd = option(QStringLiteral("OptionFowerd"), QStringLiteral("順方向"), this);
-    OptionBack = option(QStringLiteral("OptionBack"), QStringLiteral("逆方向"), this);
-    OptionLoop = option(QStringLiteral("OptionLoop"), QStringLiteral("ﾙｰﾌﾟ"), this);
+    OptionFowerd =
+        named<QRadioButton>(QStringLiteral("OptionFowerd"), QStringLiteral("順方向"), this);
+    OptionBack = named<QRadioButton>(QStringLiteral("OptionBack"), QStringLiteral("逆方向"), this);
+    OptionLoop = named<QRadioButton>(QStringLiteral("OptionLoop"), QStringLiteral("ﾙｰﾌﾟ"), this);
     OptionFowerd->setChecked(true);
     ImageFowerd = image(QStringLiteral("ImageFowerd"), QStyle::SP_ArrowRight, this);
     ImageBack = image(QStringLiteral("ImageBack"), QStyle::SP_ArrowLeft, this);
