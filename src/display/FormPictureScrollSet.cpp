@@ -32,8 +32,7 @@ FormPictureScrollSet::FormPictureScrollSet(VeroProcedure_Basical& basics, QWidge
     , basics_(basics)
 {
     setWindowTitle(QStringLiteral("縮小許容値設定"));
-    HScroll1 = new QScrollBar(Qt::Horizontal, this);
-    HScroll1->setObjectName(QStringLiteral("HScroll1"));
+    HScroll1 = named<QScrollBar>(QStringLiteral("HScroll1"), Qt::Horizontal, this);
     HScroll1->setRange(0, 100);
     HScroll1->setSingleStep(5);
     HScroll1->setPageStep(20);

@@ -133,8 +133,7 @@ void FormMakeHTML::buildFrameSetDir()
     CheckWAVConvert = named<QCheckBox>(QStringLiteral("CheckWAVConvert"),
                                        QStringLiteral("WAVファイルをMP3に変換して保存する。"), f);
     TextMP3CompR = textBox(QStringLiteral("TextMP3CompR"), f, 50);
-    HScrollMP3CompR = new QScrollBar(Qt::Horizontal, f);
-    HScrollMP3CompR->setObjectName(QStringLiteral("HScrollMP3CompR"));
+    HScrollMP3CompR = named<QScrollBar>(QStringLiteral("HScrollMP3CompR"), Qt::Horizontal, f);
     HScrollMP3CompR->setRange(0, 100);
     HScrollMP3CompR->setSingleStep(1);
     HScrollMP3CompR->setPageStep(10);
@@ -305,8 +304,8 @@ void FormMakeHTML::buildFrameSetDaisuu()
     auto* grid = new QGridLayout(f);
     constexpr int kRowsPerColumn = kReplaceWords / 2;
     for (int index = 0; index < kReplaceWords; ++index) {
-        auto* label = new QLabel(replaceWordLabels()[index], f);
-        label->setObjectName(QStringLiteral("LabelReplaceWord"));
+        auto* label =
+            named<QLabel>(QStringLiteral("LabelReplaceWord"), replaceWordLabels()[index], f);
         label->setProperty("Index", index);
         auto* word = textBox(QStringLiteral("ExchageWord"), f, 200);
         word->setProperty("Index", index);

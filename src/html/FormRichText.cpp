@@ -40,8 +40,7 @@ FormRichText::FormRichText(VeroProcedure_Basical& basics, FormMakeHTML& owner, Q
     , owner_(owner)
 {
     setWindowTitle(QStringLiteral("RitchText"));
-    Frame1 = new QGroupBox(this);
-    Frame1->setObjectName(QStringLiteral("Frame1"));
+    Frame1 = named<QGroupBox>(QStringLiteral("Frame1"), this);
     CommandMakeSample =
         commandButton(QStringLiteral("CommandMakeSample"), QStringLiteral("←ｻﾝﾌﾟﾙ作成"), Frame1);
     CommandCheck =
@@ -55,8 +54,7 @@ FormRichText::FormRichText(VeroProcedure_Basical& basics, FormMakeHTML& owner, Q
     for (QPushButton* b :
          {CommandMakeSample, CommandCheck, CommandDelSampleHtml, CommandSave, CommandOpen})
         row->addWidget(b);
-    RText1 = new QTextEdit(this);
-    RText1->setObjectName(QStringLiteral("RText1"));
+    RText1 = named<QTextEdit>(QStringLiteral("RText1"), this);
     RText1->setAcceptRichText(false);
     RText1->setLineWrapMode(QTextEdit::NoWrap);
     resize(qMax(Frame1->sizeHint().width(), 720), 520);

@@ -39,12 +39,9 @@ FormSendApliSet::FormSendApliSet(VeroProcedure_Basical& basics, QWidget* parent)
     Drive1 = new DriveListBox(fs, QStringLiteral("Drive1"), this);
     Dir1 = new DirListBox(fs, QStringLiteral("Dir1"), this);
     File1 = new FileListBox(fs, QStringLiteral("File1"), this);
-    OptionZenbuHyouji = new QRadioButton(kShowAll, this);
-    OptionZenbuHyouji->setObjectName(QStringLiteral("OptionZenbuHyouji"));
-    TextDirectry = new QLineEdit(this);
-    TextDirectry->setObjectName(QStringLiteral("TextDirectry"));
-    Text1 = new QPlainTextEdit(this);
-    Text1->setObjectName(QStringLiteral("Text1"));
+    OptionZenbuHyouji = named<QRadioButton>(QStringLiteral("OptionZenbuHyouji"), kShowAll, this);
+    TextDirectry = named<QLineEdit>(QStringLiteral("TextDirectry"), this);
+    Text1 = named<QPlainTextEdit>(QStringLiteral("Text1"), this);
     Text1->setLineWrapMode(QPlainTextEdit::NoWrap);
     CommandDo = named<QPushButton>(QStringLiteral("CommandDo"), QStringLiteral("設定"), this);
     CommandReset =

@@ -41,8 +41,7 @@ FormSendTo::FormSendTo(VeroProcedure_Basical& basics, QWidget* parent)
     , basics_(basics)
 {
     setWindowTitle(QStringLiteral("実行ｱﾌﾟﾘｹｰｼｮﾝ選択"));
-    ComboSend = new QComboBox(this);
-    ComboSend->setObjectName(QStringLiteral("ComboSend"));
+    ComboSend = named<QComboBox>(QStringLiteral("ComboSend"), this);
     ComboSend->setEditable(true);
     ComboSend->setEditText(QStringLiteral("ComboSend"));
     ComboSend->setMinimumWidth(320);
@@ -50,8 +49,8 @@ FormSendTo::FormSendTo(VeroProcedure_Basical& basics, QWidget* parent)
     CommandDo = named<QPushButton>(QStringLiteral("CommandDo"), QStringLiteral("Send"), this);
     CommandSetting =
         named<QPushButton>(QStringLiteral("CommandSetting"), QStringLiteral("設定"), this);
-    LabelCheckLen = new QLabel(QStringLiteral("CheckLen"), this);
-    LabelCheckLen->setObjectName(QStringLiteral("LabelCheckLen"));
+    LabelCheckLen =
+        named<QLabel>(QStringLiteral("LabelCheckLen"), QStringLiteral("CheckLen"), this);
     LabelCheckLen->hide(); // only measures
 
     auto* row = new QHBoxLayout(this);

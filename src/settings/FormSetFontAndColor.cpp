@@ -36,8 +36,7 @@ FormSetFontAndColor::FormSetFontAndColor(VeroProcedure_Basical& basics, SetTarge
     , targets_(std::move(targets))
 {
     setWindowTitle(QStringLiteral("ﾌｫﾝﾄと色の指定"));
-    Combo1 = new QComboBox(this);
-    Combo1->setObjectName(QStringLiteral("Combo1"));
+    Combo1 = named<QComboBox>(QStringLiteral("Combo1"), this);
     Combo1->setEditable(true);
     Combo1->setMinimumContentsLength(12);
     CommandSaveAs =

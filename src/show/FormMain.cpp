@@ -195,8 +195,7 @@ void FormMain::buildDisplay()
     Picture2 = new PictureBox(QStringLiteral("Picture2"), Picture1);
     Picture2->setAutoSize(true); // sized by the picture it holds
     Picture3 = new PictureBox(QStringLiteral("Picture3"), Picture1);
-    Text1 = new QPlainTextEdit(Picture1);
-    Text1->setObjectName(QStringLiteral("Text1"));
+    Text1 = named<QPlainTextEdit>(QStringLiteral("Text1"), Picture1);
     Text1->hide();
     Media& media = basics_.services().media;
     WebBrowser1 = new WebBrowser(QStringLiteral("WebBrowser1"), media.createWebSurface(), Picture1);
@@ -231,8 +230,7 @@ void FormMain::buildDisplay()
     HScroll1 = named<QScrollBar>(QStringLiteral("HScroll1"), Qt::Horizontal, this);
     HScroll1->resize(HScroll1->width(), HScroll1->sizeHint().height());
     HScroll1->hide();
-    VScroll1 = new QScrollBar(Qt::Vertical, this);
-    VScroll1->setObjectName(QStringLiteral("VScroll1"));
+    VScroll1 = named<QScrollBar>(QStringLiteral("VScroll1"), Qt::Vertical, this);
     VScroll1->resize(VScroll1->sizeHint().width(), VScroll1->height());
     VScroll1->hide();
 }
