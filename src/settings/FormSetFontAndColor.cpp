@@ -170,21 +170,22 @@ void FormSetFontAndColor::CommandFont_Click()
 
 void FormSetFontAndColor::CommandForeColor_Click()
 {
-    FontColorSet set = current();
-    const auto chosen = basics_.services().ui.chooseColor(bgrFromText(set.secondColor));
-    if (!chosen)
-        return;
-    set.secondColor = bgrToHexText(*chosen);
-    take(set);
+    chooseColor(&FontColorSet::secondColor);
 }
 
 void FormSetFontAndColor::CommandBackColor_Click()
 {
+    chooseColor(&FontColorSet::firstColor);
+}
+
+// The colour dialog starts at the field's colour; a choice is taken at once.
+void FormSetFontAndColor::chooseColor(QString FontColorSet::*color)
+{
     FontColorSet set = current();
-    const auto chosen = basics_.services().ui.chooseColor(bgrFromText(set.firstColor));
+    const auto chosen = basics_.services().ui.chooseColor(bgrFromText(set.*color));
     if (!chosen)
         return;
-    set.firstColor = bgrToHexText(*chosen);
+    set.*color = bgrToHexText(*chosen);
     take(set);
 }
 
