@@ -10,7 +10,6 @@
 #include "platform/Twips.h"
 #include "platform/UserDialogs.h"
 
-#include <QFileInfo>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QPushButton>
@@ -122,7 +121,7 @@ void FormRClick4::CommandToFile_Click()
                                  QStringLiteral("(*.txt)|*.txt|(*.*)|*.*"));
     if (!chosen)
         return;
-    fs.chDir(fs.toProgram(QFileInfo(*chosen).absolutePath()));
+    fs.chDirToFolderOf(*chosen);
     // Text files of the program end their lines with CR LF.
     QString text = shownText ? shownText() : QString();
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));

@@ -9,7 +9,6 @@
 #include "platform/UserDialogs.h"
 #include "state/ProgramState.h"
 
-#include <QFileInfo>
 #include <QGridLayout>
 #include <QPushButton>
 #include <QStyle>
@@ -119,7 +118,7 @@ void FormRClick5::CommandSave_Click()
         services.ui.saveFileName(QStringLiteral("Save"), fs.toNative(file), kAllFiles);
     if (!chosen)
         return;
-    fs.chDir(fs.toProgram(QFileInfo(*chosen).absolutePath()));
+    fs.chDirToFolderOf(*chosen);
     if (!fs.copyFile(file, fs.toProgram(*chosen)))
         services.ui.beep();
 }
@@ -133,7 +132,7 @@ void FormRClick5::CommandOpenSee_Click()
                                                  dialogStartFolder(fs, fileOnShow()), kAllFiles);
     if (!chosen)
         return;
-    fs.chDir(fs.toProgram(QFileInfo(*chosen).absolutePath()));
+    fs.chDirToFolderOf(*chosen);
     if (open)
         open(fs.toProgram(*chosen));
 }

@@ -9,7 +9,6 @@
 #include "platform/UserDialogs.h"
 #include "state/ProgramState.h"
 
-#include <QFileInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -136,7 +135,7 @@ void FormRichText::CommandSave_Click()
         windowTitle(), fs.toNative(owner_.maker().templatePath()), kHtmlFilter);
     if (!chosen)
         return;
-    fs.chDir(fs.toProgram(QFileInfo(*chosen).absolutePath()));
+    fs.chDirToFolderOf(*chosen);
     basics_.WriteTextToFile(text(), fs.toProgram(*chosen));
 }
 
@@ -147,7 +146,7 @@ void FormRichText::CommandOpen_Click()
         windowTitle(), fs.toNative(owner_.maker().templatePath()), kHtmlFilter);
     if (!chosen)
         return;
-    fs.chDir(fs.toProgram(QFileInfo(*chosen).absolutePath()));
+    fs.chDirToFolderOf(*chosen);
     setText(basics_.ReadTextOfFile(fs.toProgram(*chosen)));
     CommandCheck_Click();
 }

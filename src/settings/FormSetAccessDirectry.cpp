@@ -9,7 +9,6 @@
 #include "settings/ProgramCandidates.h"
 #include "state/ProgramState.h"
 
-#include <QFileInfo>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
@@ -273,7 +272,7 @@ void FormSetAccessDirectry::CommandApliPos_Click(int index)
         Label11[size_t(index)]->text(), fs.toNative(FolderOfPath(rowField(index))), filter);
     if (!chosen)
         return;
-    fs.chDir(fs.toProgram(QFileInfo(*chosen).absolutePath()));
+    fs.chDirToFolderOf(*chosen);
     const QString program = fs.toProgram(*chosen);
     if (!acceptsChoice(index, *chosen, program))
         return;
