@@ -4,6 +4,7 @@
 // ahead while the current one waits, against the same walk with preparation
 // ahead switched off, in the same run. The target: at most 3 % over the 50
 // seconds that the intervals alone take.
+#include "BigPictures.h"
 #include "display/PictureBox.h"
 #include "display/PictureCache.h"
 #include "fileops/VeroProcedure_Basical.h"
@@ -19,13 +20,10 @@
 #include "support/TestHome.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QCheckBox>
 #include <QElapsedTimer>
 #include <QLineEdit>
-#include <QPainter>
 #include <QRadioButton>
-#include <QRandomGenerator>
 
 #include <cstdio>
 
@@ -34,29 +32,6 @@ using namespace lumen;
 namespace {
 
 constexpr int kPages = 50;
-
-QByteArray bigJpeg()
-{
-    QImage image(6000, 4000, QImage::Format_RGB32);
-    QPainter painter(&image);
-    QLinearGradient sky(0, 0, 6000, 4000);
-    sky.setColorAt(0, QColor(30, 60, 140));
-    sky.setColorAt(1, QColor(240, 200, 120));
-    painter.fillRect(image.rect(), sky);
-    QRandomGenerator random(11);
-    for (int i = 0; i < 4000; ++i) {
-        painter.setBrush(QColor::fromRgb(random.generate()));
-        painter.setPen(Qt::NoPen);
-        painter.drawEllipse(QPointF(random.bounded(6000), random.bounded(4000)),
-                            20 + random.bounded(60), 20 + random.bounded(60));
-    }
-    painter.end();
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "JPG", 90);
-    return bytes;
-}
 
 struct Show {
     test::TestHome home;
@@ -105,14 +80,8 @@ int main(int argc, char** argv)
 {
     QApplication app(argc, argv);
     Show show;
-    const QByteArray jpeg = bigJpeg();
-    QByteArray list;
-    for (int i = 1; i <= kPages; ++i) {
-        const QString name = QStringLiteral("p%1.jpg").arg(i, 2, 10, QLatin1Char('0'));
-        show.home.writeFile(name, jpeg);
-        list += "C:\\" + name.toLatin1() + "\r\n";
-    }
-    show.home.writeFile(QStringLiteral("show.lst"), list);
+    const QByteArray jpeg = bench::bigJpeg(11);
+    bench::writePictureShow(show.home, jpeg, 1, kPages);
     show.main.resize(1200, 850);
     show.main.CheckQuiCkWork->setChecked(true);
     show.main.showForm();

@@ -1,16 +1,11 @@
 // A site made from a 1,000-line list of pictures, against copying the same
 // pictures with cp, in the same run. The run's fixed waits are left out: a
 // jumping clock counts them. Each side runs three times; the best counts.
-#include "fileops/VeroProcedure_Basical.h"
 #include "html/ButtonIcons.h"
 #include "html/SiteMaker.h"
 #include "list/CommandWords.h"
 #include "list/ListLoader.h"
-#include "state/ProgramState.h"
-#include "support/FakeBasicHost.h"
-#include "support/FakeMedia.h"
-#include "support/Fakes.h"
-#include "support/TestHome.h"
+#include "support/BasicsFixture.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -60,37 +55,26 @@ qint64 folderBytes(const QString& folder)
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    test::TestHome home;
-    test::FakeClock clock;
-    test::FakeDialogs ui;
-    test::FakeLauncher launcher;
-    test::FakeBasicHost host;
-    test::FakeMedia media;
-    ProgramState state;
-    state.DataDir = QStringLiteral("C:\\Lumentas");
-    state.ProgramRunDir = QStringLiteral("C:\\Lumentas\\ForProgramRun_KDR");
-    home.makeFolder(QStringLiteral("Lumentas/ForProgramRun_KDR"));
-    Services services{clock, ui, launcher, home.fs, media};
-    VeroProcedure_Basical basics(state, services, host);
-    PutCommandToArray(basics);
+    test::BasicsFixture f;
+    PutCommandToArray(f.basics);
 
     QStringList list;
     QStringList sources;
-    home.makeFolder(QStringLiteral("pictures"));
+    f.home.makeFolder(QStringLiteral("pictures"));
     for (int i = 1; i <= kLines; ++i) {
         const QString name = QStringLiteral("photo_%1.jpg").arg(i, 4, 10, QLatin1Char('0'));
-        const QString native = home.native(QStringLiteral("pictures/") + name);
+        const QString native = f.home.native(QStringLiteral("pictures/") + name);
         makePicture(i).save(native, "JPG", 85);
         sources << native;
         list
             << QStringLiteral("C:\\pictures\\%1 @COMMENT=<<<<<写真 %2 ENDCOMMENT").arg(name).arg(i);
     }
-    home.writeFile(QStringLiteral("show.lst"), list.join(QStringLiteral("\r\n")).toUtf8());
+    f.home.writeFile(QStringLiteral("show.lst"), list.join(QStringLiteral("\r\n")).toUtf8());
     QString text;
-    const int count = prepareWorkingCopy(basics, QStringLiteral("C:\\show.lst"), &text);
-    const int lines = fillListArray(basics, text, count).fileCount;
+    const int count = prepareWorkingCopy(f.basics, QStringLiteral("C:\\show.lst"), &text);
+    const int lines = fillListArray(f.basics, text, count).fileCount;
 
-    SiteMaker maker(basics);
+    SiteMaker maker(f.basics);
     for (int row = 0; row < kReplaceWords; ++row)
         maker.ReplaceWordTable.set(kColWord, row, defaultReplaceWords()[row]);
     const SitePictures pictures{
@@ -99,19 +83,19 @@ int main(int argc, char** argv)
         builtInButtonPicture(ButtonIcon::Oya),  builtInButtonPicture(ButtonIcon::Blank)};
     const SiteSettings settings = SiteSettings::defaults();
 
-    const QString site = home.native(QStringLiteral("data"));
-    const QString copies = home.native(QStringLiteral("copies"));
+    const QString site = f.home.native(QStringLiteral("data"));
+    const QString copies = f.home.native(QStringLiteral("copies"));
     double siteMs = 1e9;
     double copyMs = 1e9;
     qint64 waited = 0;
     for (int round = 0; round < 3; ++round) {
         QDir(site).removeRecursively();
-        clock.waits.clear();
+        f.clock.waits.clear();
         QElapsedTimer timer;
         timer.start();
         maker.MakeHTML(settings, pictures, QString::number(lines));
         siteMs = qMin(siteMs, timer.nsecsElapsed() / 1e6);
-        waited = clock.totalWaited();
+        waited = f.clock.totalWaited();
 
         QDir(copies).removeRecursively();
         QDir().mkpath(copies);

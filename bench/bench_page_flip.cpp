@@ -2,6 +2,8 @@
 // layout: the time from CommandRight to the painted page, cold, against a
 // bare full-size decode of the same file in the same run; then the flip with
 // the next page prepared ahead; and the peak memory over 20 such pages.
+#include "BigPictures.h"
+#include "ProcStatus.h"
 #include "display/PictureBox.h"
 #include "display/PictureCache.h"
 #include "list/CommandWords.h"
@@ -10,59 +12,19 @@
 #include "support/BasicsFixture.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QCheckBox>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QImageReader>
-#include <QPainter>
 #include <QPushButton>
-#include <QRandomGenerator>
 #include <QThread>
 
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
-#include <string>
 
 using namespace lumen;
 
 namespace {
-
-long statusKb(const char* key)
-{
-    std::ifstream status("/proc/self/status");
-    std::string line;
-    const std::string prefix = std::string(key) + ":";
-    while (std::getline(status, line)) {
-        if (line.rfind(prefix, 0) == 0)
-            return std::stol(line.substr(prefix.size()));
-    }
-    return -1;
-}
-
-QByteArray bigJpeg()
-{
-    QImage image(6000, 4000, QImage::Format_RGB32);
-    QPainter painter(&image);
-    QLinearGradient sky(0, 0, 6000, 4000);
-    sky.setColorAt(0, QColor(30, 60, 140));
-    sky.setColorAt(1, QColor(240, 200, 120));
-    painter.fillRect(image.rect(), sky);
-    QRandomGenerator random(7);
-    for (int i = 0; i < 4000; ++i) {
-        painter.setBrush(QColor::fromRgb(random.generate()));
-        painter.setPen(Qt::NoPen);
-        painter.drawEllipse(QPointF(random.bounded(6000), random.bounded(4000)),
-                            20 + random.bounded(60), 20 + random.bounded(60));
-    }
-    painter.end();
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "JPG", 90);
-    return bytes;
-}
 
 double flipMs(FormMain& main)
 {
@@ -80,15 +42,9 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     test::BasicsFixture f;
     PutCommandToArray(f.basics);
-    const QByteArray jpeg = bigJpeg();
-    QByteArray list;
+    const QByteArray jpeg = bench::bigJpeg(7);
     const int pages = 21;
-    for (int i = 0; i < pages; ++i) {
-        const QString name = QStringLiteral("p%1.jpg").arg(i, 2, 10, QLatin1Char('0'));
-        f.home.writeFile(name, jpeg);
-        list += "C:\\" + name.toLatin1() + "\r\n";
-    }
-    f.home.writeFile(QStringLiteral("show.lst"), list);
+    bench::writePictureShow(f.home, jpeg, 0, pages - 1);
 
     FormRegistry forms;
     FormMain main(f.basics, forms);
@@ -108,8 +64,8 @@ int main(int argc, char** argv)
             return 1;
     }
 
-    const long before = statusKb("VmRSS");
-    std::ofstream("/proc/self/clear_refs") << "5";
+    const long before = bench::statusKb("VmRSS");
+    bench::resetPeak();
 
     // Cold pages: nothing prepared ahead.
     main.pictures().setPreparing(false);
@@ -131,7 +87,7 @@ int main(int argc, char** argv)
         sum += ms;
         ++flips;
     }
-    const long peak = statusKb("VmHWM");
+    const long peak = bench::statusKb("VmHWM");
 
     std::printf("picture: 6000x4000 JPEG, %lld bytes; display area %dx%d px\n", qint64(jpeg.size()),
                 main.Picture1->width(), main.Picture1->height());

@@ -1,6 +1,7 @@
 // Reading a long list: ReadTextOfFile and CleanListFile against a plain read,
 // and a plain read and write, of the same 32,767-line file in the same run.
 // Prints the times, their ratios and the peak memory of each procedure.
+#include "ProcStatus.h"
 #include "fileops/BasicHost.h"
 #include "fileops/VeroProcedure_Basical.h"
 #include "platform/Clock.h"
@@ -19,10 +20,8 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <functional>
 #include <malloc.h>
-#include <string>
 
 using namespace lumen;
 
@@ -92,27 +91,15 @@ QByteArray makeList(int lines)
     return text::encodeForFile(text);
 }
 
-long readStatusKb(const char* key)
-{
-    std::ifstream status("/proc/self/status");
-    std::string line;
-    const std::string prefix = std::string(key) + ":";
-    while (std::getline(status, line)) {
-        if (line.rfind(prefix, 0) == 0)
-            return std::stol(line.substr(prefix.size()));
-    }
-    return -1;
-}
-
 // Peak memory that `work` adds above what the process holds before it: the
 // high-water mark is reset to the current size first.
 long peakKbOf(const std::function<void()>& work)
 {
     malloc_trim(0);
-    std::ofstream("/proc/self/clear_refs") << "5";
-    const long before = readStatusKb("VmRSS");
+    bench::resetPeak();
+    const long before = bench::statusKb("VmRSS");
     work();
-    return readStatusKb("VmHWM") - before;
+    return bench::statusKb("VmHWM") - before;
 }
 
 double bestMsOf(int runs, const std::function<void()>& work)

@@ -1,12 +1,7 @@
 // ConvertWavToMp3 of a 60-second stereo WAV against Debian's lame program at
 // the same rate, in the same run. Each side runs three times; the best counts.
-#include "fileops/VeroProcedure_Basical.h"
 #include "html/ModuleWavToMP3.h"
-#include "state/ProgramState.h"
-#include "support/FakeBasicHost.h"
-#include "support/FakeMedia.h"
-#include "support/Fakes.h"
-#include "support/TestHome.h"
+#include "support/BasicsFixture.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -59,17 +54,9 @@ bool writeMusic(const QString& native, int seconds)
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    test::TestHome home;
-    test::FakeClock clock;
-    test::FakeDialogs ui;
-    test::FakeLauncher launcher;
-    test::FakeBasicHost host;
-    test::FakeMedia media;
-    ProgramState state;
-    Services services{clock, ui, launcher, home.fs, media};
-    VeroProcedure_Basical basics(state, services, host);
+    test::BasicsFixture f;
 
-    const QString wav = home.native(QStringLiteral("music.wav"));
+    const QString wav = f.home.native(QStringLiteral("music.wav"));
     if (!writeMusic(wav, 60))
         return 1;
     std::printf("input: 60 s stereo 44.1 kHz 16-bit WAV, %.1f MB\n", QFile(wav).size() / 1e6);
@@ -80,8 +67,8 @@ int main(int argc, char** argv)
         for (int round = 0; round < 3; ++round) {
             QElapsedTimer timer;
             timer.start();
-            ConvertWavToMp3(basics, QStringLiteral("C:\\music.wav"), QStringLiteral("C:\\ours.mp3"),
-                            qint16(percent));
+            ConvertWavToMp3(f.basics, QStringLiteral("C:\\music.wav"),
+                            QStringLiteral("C:\\ours.mp3"), qint16(percent));
             ours = qMin(ours, timer.nsecsElapsed() / 1e6);
 
             timer.restart();
@@ -89,15 +76,16 @@ int main(int argc, char** argv)
                 QStringLiteral("lame"),
                 {QStringLiteral("--silent"), QStringLiteral("-b"), QString::number(rate),
                  QStringLiteral("-m"), QStringLiteral("j"), QStringLiteral("--resample"),
-                 QStringLiteral("44.1"), wav, home.native(QStringLiteral("theirs.mp3"))});
+                 QStringLiteral("44.1"), wav, f.home.native(QStringLiteral("theirs.mp3"))});
             theirs = qMin(theirs, timer.nsecsElapsed() / 1e6);
-            if (status != 0 || !ui.boxes.isEmpty())
+            if (status != 0 || !f.ui.boxes.isEmpty())
                 return 1;
         }
         std::printf("%3d %% = %3d kbps: lame %7.1f ms (%lld bytes), ConvertWavToMp3 %7.1f ms "
                     "(%lld bytes)   ratio %.2f (target <= 1.2)\n",
-                    percent, rate, theirs, QFile(home.native(QStringLiteral("theirs.mp3"))).size(),
-                    ours, QFile(home.native(QStringLiteral("ours.mp3"))).size(), ours / theirs);
+                    percent, rate, theirs,
+                    QFile(f.home.native(QStringLiteral("theirs.mp3"))).size(), ours,
+                    QFile(f.home.native(QStringLiteral("ours.mp3"))).size(), ours / theirs);
     }
     return 0;
 }

@@ -23,8 +23,7 @@ using namespace basic;
 
 QLineEdit* makeText(const QString& name, const QString& text, QWidget* parent)
 {
-    auto* edit = new QLineEdit(text, parent);
-    edit->setObjectName(name);
+    auto* edit = named<QLineEdit>(name, text, parent);
     edit->setAlignment(Qt::AlignRight);
     return edit;
 }
@@ -40,13 +39,12 @@ FormCDMusic::FormCDMusic(VeroProcedure_Basical& basics, QWidget* parent)
 
     MMControl1 = new MMControl(QStringLiteral("MMControl1"), services.media.cd(), services.fs,
                                services.clock, this);
-    CheckOneMusic = new QCheckBox(QStringLiteral("一曲停止"), this);
-    CheckOneMusic->setObjectName(QStringLiteral("CheckOneMusic"));
-    CommandSetTrack = new QPushButton(QStringLiteral("トラック指定"), this);
-    CommandSetTrack->setObjectName(QStringLiteral("CommandSetTrack"));
+    CheckOneMusic =
+        named<QCheckBox>(QStringLiteral("CheckOneMusic"), QStringLiteral("一曲停止"), this);
+    CommandSetTrack =
+        named<QPushButton>(QStringLiteral("CommandSetTrack"), QStringLiteral("トラック指定"), this);
     TextMyTrack = makeText(QStringLiteral("TextMyTrack"), QStringLiteral("1"), this);
-    Label2 = new QLabel(QStringLiteral("/"), this);
-    Label2->setObjectName(QStringLiteral("Label2"));
+    Label2 = named<QLabel>(QStringLiteral("Label2"), QStringLiteral("/"), this);
     Label2->setAlignment(Qt::AlignCenter);
     TextTotalTrack = makeText(QStringLiteral("TextTotalTrack"), QStringLiteral("0"), this);
 

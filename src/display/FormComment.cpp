@@ -38,8 +38,7 @@ FormComment::FormComment(VeroProcedure_Basical& basics, FormRegistry& forms, QWi
     , basics_(basics)
     , forms_(forms)
 {
-    Label1 = new QLabel(QStringLiteral("ｺｺﾆ コメント"), this);
-    Label1->setObjectName(QStringLiteral("Label1"));
+    Label1 = named<QLabel>(QStringLiteral("Label1"), QStringLiteral("ｺｺﾆ コメント"), this);
     Label1->setFont(fontFrom(Label1->font(), QStringLiteral("MS UI Gothic"), kDesignFontSize));
     Label1->setCursor(Qt::SizeAllCursor);
     Label1->adjustSize();

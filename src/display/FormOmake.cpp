@@ -10,13 +10,6 @@
 namespace lumen {
 namespace {
 
-QRadioButton* option(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* button = new QRadioButton(caption, parent);
-    button->setObjectName(name);
-    return button;
-}
-
 // Option buttons of one group can't be cleared one by one while they
 // exclude each other.
 void clearOptions(std::initializer_list<QRadioButton*> options)
@@ -35,9 +28,10 @@ FormOmake::FormOmake(FormRegistry& forms, QWidget* parent)
     , forms_(forms)
 {
     setWindowTitle(QStringLiteral("ｺﾒﾝﾄ"));
-    Option1 = option(QStringLiteral("Option1"), QStringLiteral("コメント消去"), this);
-    Option2 = option(QStringLiteral("Option2"), QStringLiteral("文字、背景色変更"), this);
-    Option3 = option(QStringLiteral("Option3"), QString(), this);
+    Option1 = named<QRadioButton>(QStringLiteral("Option1"), QStringLiteral("コメント消去"), this);
+    Option2 =
+        named<QRadioButton>(QStringLiteral("Option2"), QStringLiteral("文字、背景色変更"), this);
+    Option3 = named<QRadioButton>(QStringLiteral("Option3"), QString(), this);
     Option3->hide();
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(8, 6, 8, 6);

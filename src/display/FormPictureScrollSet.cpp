@@ -20,8 +20,7 @@ using namespace basic;
 
 QLabel* label(const QString& name, const QString& caption, Qt::Alignment alignment, QWidget* parent)
 {
-    auto* text = new QLabel(caption, parent);
-    text->setObjectName(name);
+    auto* text = named<QLabel>(name, caption, parent);
     text->setAlignment(alignment | Qt::AlignVCenter);
     return text;
 }
@@ -33,8 +32,7 @@ FormPictureScrollSet::FormPictureScrollSet(VeroProcedure_Basical& basics, QWidge
     , basics_(basics)
 {
     setWindowTitle(QStringLiteral("縮小許容値設定"));
-    HScroll1 = new QScrollBar(Qt::Horizontal, this);
-    HScroll1->setObjectName(QStringLiteral("HScroll1"));
+    HScroll1 = named<QScrollBar>(QStringLiteral("HScroll1"), Qt::Horizontal, this);
     HScroll1->setRange(0, 100);
     HScroll1->setSingleStep(5);
     HScroll1->setPageStep(20);
@@ -48,8 +46,8 @@ FormPictureScrollSet::FormPictureScrollSet(VeroProcedure_Basical& basics, QWidge
                    Qt::AlignRight, this);
     Label4 = label(QStringLiteral("Label4"), QStringLiteral("画面より大きい画像はすぐ縮小"),
                    Qt::AlignLeft, this);
-    CommandWordSet = popupButton(QStringLiteral("CommandWordSet"), QStringLiteral("設定"), this);
-    CommandEnd = popupButton(QStringLiteral("CommandEnd"), QStringLiteral("終了"), this);
+    CommandWordSet = commandButton(QStringLiteral("CommandWordSet"), QStringLiteral("設定"), this);
+    CommandEnd = commandButton(QStringLiteral("CommandEnd"), QStringLiteral("終了"), this);
     setBackColor(CommandWordSet, kColorGrey);
 
     auto* grid = new QGridLayout(this);

@@ -10,7 +10,6 @@
 #include "platform/Twips.h"
 #include "platform/UserDialogs.h"
 
-#include <QFileInfo>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QPushButton>
@@ -31,13 +30,13 @@ FormRClick4::FormRClick4(VeroProcedure_Basical& basics, FormRegistry& forms, QWi
     , forms_(forms)
 {
     CommandSetFont =
-        popupButton(QStringLiteral("CommandSetFont"), QStringLiteral("ﾌｫﾝﾄ/ｶﾗｰ"), this);
-    CommandSmall = popupButton(QStringLiteral("CommandSmall"), QStringLiteral("画面縮小"), this);
-    CommandBig = popupButton(QStringLiteral("CommandBig"), QStringLiteral("画面拡大"), this);
+        commandButton(QStringLiteral("CommandSetFont"), QStringLiteral("ﾌｫﾝﾄ/ｶﾗｰ"), this);
+    CommandSmall = commandButton(QStringLiteral("CommandSmall"), QStringLiteral("画面縮小"), this);
+    CommandBig = commandButton(QStringLiteral("CommandBig"), QStringLiteral("画面拡大"), this);
     CommandOpenSee =
-        popupButton(QStringLiteral("CommandOpenSee"), QStringLiteral("すぐ見る"), this);
-    CommandToFile = popupButton(QStringLiteral("CommandToFile"), QStringLiteral("Save"), this);
-    CommandClose = popupButton(QStringLiteral("CommandClose"), QString(), this);
+        commandButton(QStringLiteral("CommandOpenSee"), QStringLiteral("すぐ見る"), this);
+    CommandToFile = commandButton(QStringLiteral("CommandToFile"), QStringLiteral("Save"), this);
+    CommandClose = commandButton(QStringLiteral("CommandClose"), QString(), this);
     CommandClose->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
 
     auto* grid = new QGridLayout(this);
@@ -122,7 +121,7 @@ void FormRClick4::CommandToFile_Click()
                                  QStringLiteral("(*.txt)|*.txt|(*.*)|*.*"));
     if (!chosen)
         return;
-    fs.chDir(fs.toProgram(QFileInfo(*chosen).absolutePath()));
+    fs.chDirToFolderOf(*chosen);
     // Text files of the program end their lines with CR LF.
     QString text = shownText ? shownText() : QString();
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));

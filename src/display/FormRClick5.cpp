@@ -3,12 +3,12 @@
 #include "display/PopupSupport.h"
 #include "fileops/VeroProcedure_Basical.h"
 #include "platform/Basic.h"
+#include "platform/Controls.h"
 #include "platform/FileSystem.h"
 #include "platform/Launcher.h"
 #include "platform/UserDialogs.h"
 #include "state/ProgramState.h"
 
-#include <QFileInfo>
 #include <QGridLayout>
 #include <QPushButton>
 #include <QStyle>
@@ -26,14 +26,14 @@ FormRClick5::FormRClick5(VeroProcedure_Basical& basics, QWidget* parent)
     , basics_(basics)
 {
     CommandShowAutoRun =
-        popupButton(QStringLiteral("CommandShowAutoRun"), QStringLiteral("Auto"), this);
-    CommandRecover = popupButton(QStringLiteral("CommandRecover"), QStringLiteral("復元"), this);
-    CommandDeleat = popupButton(QStringLiteral("CommandDeleat"), QStringLiteral("削除"), this);
+        commandButton(QStringLiteral("CommandShowAutoRun"), QStringLiteral("Auto"), this);
+    CommandRecover = commandButton(QStringLiteral("CommandRecover"), QStringLiteral("復元"), this);
+    CommandDeleat = commandButton(QStringLiteral("CommandDeleat"), QStringLiteral("削除"), this);
     CommandOpenEdit =
-        popupButton(QStringLiteral("CommandOpenEdit"), QStringLiteral("ｴﾃﾞｨﾀｰ"), this);
-    CommandSave = popupButton(QStringLiteral("CommandSave"), QStringLiteral("Save"), this);
-    CommandOpenSee = popupButton(QStringLiteral("CommandOpenSee"), QStringLiteral("Open"), this);
-    CommandClose = popupButton(QStringLiteral("CommandClose"), QString(), this);
+        commandButton(QStringLiteral("CommandOpenEdit"), QStringLiteral("ｴﾃﾞｨﾀｰ"), this);
+    CommandSave = commandButton(QStringLiteral("CommandSave"), QStringLiteral("Save"), this);
+    CommandOpenSee = commandButton(QStringLiteral("CommandOpenSee"), QStringLiteral("Open"), this);
+    CommandClose = commandButton(QStringLiteral("CommandClose"), QString(), this);
     CommandClose->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
 
     auto* grid = new QGridLayout(this);
@@ -118,7 +118,7 @@ void FormRClick5::CommandSave_Click()
         services.ui.saveFileName(QStringLiteral("Save"), fs.toNative(file), kAllFiles);
     if (!chosen)
         return;
-    fs.chDir(fs.toProgram(QFileInfo(*chosen).absolutePath()));
+    fs.chDirToFolderOf(*chosen);
     if (!fs.copyFile(file, fs.toProgram(*chosen)))
         services.ui.beep();
 }
@@ -132,7 +132,7 @@ void FormRClick5::CommandOpenSee_Click()
                                                  dialogStartFolder(fs, fileOnShow()), kAllFiles);
     if (!chosen)
         return;
-    fs.chDir(fs.toProgram(QFileInfo(*chosen).absolutePath()));
+    fs.chDirToFolderOf(*chosen);
     if (open)
         open(fs.toProgram(*chosen));
 }

@@ -23,20 +23,18 @@ FormRightLeftNorm::FormRightLeftNorm(VeroProcedure_Basical& basics, QWidget* par
     : FormBase(QStringLiteral("FormRightLeftNorm"), parent, Qt::Window | Qt::WindowStaysOnTopHint)
     , basics_(basics)
 {
-    CommandLeft = popupButton(QStringLiteral("CommandLeft"), QStringLiteral("←"), this);
-    CommandRight = popupButton(QStringLiteral("CommandRight"), QStringLiteral("→"), this);
-    HScroll1 = new QScrollBar(Qt::Horizontal, this);
-    HScroll1->setObjectName(QStringLiteral("HScroll1"));
+    CommandLeft = commandButton(QStringLiteral("CommandLeft"), QStringLiteral("←"), this);
+    CommandRight = commandButton(QStringLiteral("CommandRight"), QStringLiteral("→"), this);
+    HScroll1 = named<QScrollBar>(QStringLiteral("HScroll1"), Qt::Horizontal, this);
     HScroll1->setRange(0, kBarMax);
     HScroll1->setTracking(false); // the page turns when the bar is let go
     HScroll1->setMinimumWidth(150);
     CommandToNormalSize =
-        popupButton(QStringLiteral("CommandToNormalSize"), QStringLiteral("標準表示"), this);
-    CommandIELeft = popupButton(QStringLiteral("CommandIELeft"), QStringLiteral("戻"), this);
-    CommandIERight = popupButton(QStringLiteral("CommandIERight"), QStringLiteral("進"), this);
-    CommandEnd = popupButton(QStringLiteral("CommandEnd"), QStringLiteral("終了"), this);
-    Shape1 = new QFrame(this);
-    Shape1->setObjectName(QStringLiteral("Shape1"));
+        commandButton(QStringLiteral("CommandToNormalSize"), QStringLiteral("標準表示"), this);
+    CommandIELeft = commandButton(QStringLiteral("CommandIELeft"), QStringLiteral("戻"), this);
+    CommandIERight = commandButton(QStringLiteral("CommandIERight"), QStringLiteral("進"), this);
+    CommandEnd = commandButton(QStringLiteral("CommandEnd"), QStringLiteral("終了"), this);
+    Shape1 = named<QFrame>(QStringLiteral("Shape1"), this);
     Shape1->setFrameShape(QFrame::Box);
     LabelDo = new ClickLabel(QStringLiteral("LabelDo"), QStringLiteral("表示"), Shape1);
     LabelDo->setAlignment(Qt::AlignCenter);

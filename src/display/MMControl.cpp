@@ -1,6 +1,7 @@
 #include "display/MMControl.h"
 
 #include "platform/Clock.h"
+#include "platform/Controls.h"
 #include "platform/FileSystem.h"
 #include "platform/Media.h"
 
@@ -40,8 +41,7 @@ MMControl::MMControl(const QString& name, CdDrive& drive, FileSystem& fs, Clock&
 
 QToolButton* MMControl::addButton(const QString& command, int icon, const QString& tip)
 {
-    auto* button = new QToolButton(this);
-    button->setObjectName(command);
+    auto* button = named<QToolButton>(command, this);
     button->setIcon(style()->standardIcon(QStyle::StandardPixmap(icon)));
     button->setToolTip(tip);
     button->setFocusPolicy(Qt::NoFocus);

@@ -42,8 +42,7 @@ protected:
 QToolButton* makeTransportButton(const QString& name, QStyle::StandardPixmap icon,
                                  const QString& tip, QWidget* parent)
 {
-    auto* button = new QToolButton(parent);
-    button->setObjectName(name);
+    auto* button = named<QToolButton>(name, parent);
     button->setIcon(parent->style()->standardIcon(icon));
     button->setToolTip(tip);
     button->setAutoRaise(true);
@@ -53,8 +52,7 @@ QToolButton* makeTransportButton(const QString& name, QStyle::StandardPixmap ico
 
 QLabel* makeFace(QWidget* parent)
 {
-    auto* face = new QLabel(parent);
-    face->setObjectName(QStringLiteral("Face"));
+    auto* face = named<QLabel>(QStringLiteral("Face"), parent);
     face->setAlignment(Qt::AlignCenter);
     face->setWordWrap(true);
     face->setTextFormat(Qt::RichText);
@@ -109,8 +107,7 @@ MediaPanel::~MediaPanel()
 
 void MediaPanel::buildTransport()
 {
-    transport_ = new QWidget(this);
-    transport_->setObjectName(QStringLiteral("Transport"));
+    transport_ = named<QWidget>(QStringLiteral("Transport"), this);
     transport_->setFixedHeight(kTransportHeight);
     transport_->setAutoFillBackground(true);
     auto* row = new QHBoxLayout(transport_);
@@ -121,12 +118,10 @@ void MediaPanel::buildTransport()
                                 QStringLiteral("再生"), transport_);
     stop_ = makeTransportButton(QStringLiteral("StopButton"), QStyle::SP_MediaStop,
                                 QStringLiteral("停止"), transport_);
-    position_ = new QSlider(Qt::Horizontal, transport_);
-    position_->setObjectName(QStringLiteral("PositionBar"));
+    position_ = named<QSlider>(QStringLiteral("PositionBar"), Qt::Horizontal, transport_);
     position_->setRange(0, 0);
     position_->setFocusPolicy(Qt::NoFocus);
-    name_ = new NameLabel(transport_);
-    name_->setObjectName(QStringLiteral("FileNameLabel"));
+    name_ = named<NameLabel>(QStringLiteral("FileNameLabel"), transport_);
 
     row->addWidget(play_);
     row->addWidget(stop_);

@@ -6,17 +6,7 @@
 #include "platform/FormBase.h"
 #include "platform/FormRegistry.h"
 
-#include <QPushButton>
-
 namespace lumen {
-
-QPushButton* popupButton(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    return button;
-}
 
 void showFormAt(FormBase* form, double leftTwips, double topTwips)
 {

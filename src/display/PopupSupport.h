@@ -1,12 +1,9 @@
-// What the small popups of the display share: their buttons, showing a
-// window at a place in twips, the font and colour window reached by name,
-// and the folder a file dialog starts in.
+// What the small popups of the display share: showing a window at a place
+// in twips, the font and colour window reached by name, and the folder a
+// file dialog starts in.
 #pragma once
 
 #include <QString>
-
-class QPushButton;
-class QWidget;
 
 namespace lumen {
 
@@ -18,8 +15,6 @@ inline const QString kFontAndColorForm = QStringLiteral("FormSetFontAndColor");
 // The dynamic property of FormSetFontAndColor that holds the caller's mode
 // word: "TEXT" for the text pane; anything else means the comment.
 inline constexpr const char* kFontAndColorModeProperty = "mode";
-
-QPushButton* popupButton(const QString& name, const QString& caption, QWidget* parent);
 
 // Loads the window, moves its left top corner to the screen place (twips)
 // and shows it.

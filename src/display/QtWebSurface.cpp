@@ -1,5 +1,7 @@
 #include "display/QtWebSurface.h"
 
+#include "platform/Controls.h"
+
 #include <QFileInfo>
 #include <QVBoxLayout>
 #include <QWebEngineDownloadRequest>
@@ -21,9 +23,8 @@ const QUrl& blankPage()
 } // namespace
 
 QtWebSurface::QtWebSurface()
-    : host_(new QWidget)
+    : host_(named<QWidget>(QStringLiteral("WebSurface")))
 {
-    host_->setObjectName(QStringLiteral("WebSurface"));
     auto* layout = new QVBoxLayout(host_);
     layout->setContentsMargins(0, 0, 0, 0);
     QPalette palette = host_->palette();
@@ -57,8 +58,7 @@ QWebEngineView* QtWebSurface::view()
                     download->cancel();
                 });
     }
-    view_ = new QWebEngineView(host_);
-    view_->setObjectName(QStringLiteral("WebView"));
+    view_ = named<QWebEngineView>(QStringLiteral("WebView"), host_);
     view_->setPage(new QWebEnginePage(profile_, view_));
     host_->layout()->addWidget(view_);
     connect(view_, &QWebEngineView::loadFinished, this, &WebSurface::loadFinished);

@@ -16,8 +16,7 @@ FormStop::FormStop(ProgramState& state, QWidget* parent)
     , state_(state)
 {
     setWindowTitle(QStringLiteral("処理中"));
-    Text1 = new QLineEdit(this);
-    Text1->setObjectName(QStringLiteral("Text1"));
+    Text1 = named<QLineEdit>(QStringLiteral("Text1"), this);
     Text1->setReadOnly(true);
     Text1->setMinimumWidth(220);
     LabelStop = new ClickLabel(QStringLiteral("LabelStop"), QStringLiteral("ｸﾘｯｸで中止"), this);

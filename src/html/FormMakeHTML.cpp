@@ -17,34 +17,11 @@
 namespace lumen {
 namespace {
 
-QPushButton* button(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* b = new QPushButton(caption, parent);
-    b->setObjectName(name);
-    b->setAutoDefault(false);
-    return b;
-}
-
 QLineEdit* textBox(const QString& name, QWidget* parent, int width = 0)
 {
-    auto* box = new QLineEdit(parent);
-    box->setObjectName(name);
+    auto* box = named<QLineEdit>(name, parent);
     if (width > 0)
         box->setFixedWidth(width);
-    return box;
-}
-
-QCheckBox* checkBox(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* box = new QCheckBox(caption, parent);
-    box->setObjectName(name);
-    return box;
-}
-
-QGroupBox* frame(const QString& name, QWidget* parent)
-{
-    auto* box = new QGroupBox(parent);
-    box->setObjectName(name);
     return box;
 }
 
@@ -112,21 +89,21 @@ FormMakeHTML::FormMakeHTML(VeroProcedure_Basical& basics, FormRegistry& forms, Q
 
 void FormMakeHTML::buildFrameMain()
 {
-    FrameMain = frame(QStringLiteral("FrameMain"), this);
-    CommandShowSampleHtml =
-        button(QStringLiteral("CommandShowSampleHtml"), QStringLiteral("SampleHtml"), FrameMain);
+    FrameMain = named<QGroupBox>(QStringLiteral("FrameMain"), this);
+    CommandShowSampleHtml = commandButton(QStringLiteral("CommandShowSampleHtml"),
+                                          QStringLiteral("SampleHtml"), FrameMain);
     CommandDispConfirm =
-        button(QStringLiteral("CommandDispConfirm"), QStringLiteral("表示確認"), FrameMain);
-    CommandShowFolderSet =
-        button(QStringLiteral("CommandShowFolderSet"), QStringLiteral("フォルダー"), FrameMain);
+        commandButton(QStringLiteral("CommandDispConfirm"), QStringLiteral("表示確認"), FrameMain);
+    CommandShowFolderSet = commandButton(QStringLiteral("CommandShowFolderSet"),
+                                         QStringLiteral("フォルダー"), FrameMain);
     CommandSetFont =
-        button(QStringLiteral("CommandSetFont"), QStringLiteral("フォント"), FrameMain);
-    CommandShowSetButton =
-        button(QStringLiteral("CommandShowSetButton"), QStringLiteral("表示ボタン"), FrameMain);
-    CommandShowSetDaisuu =
-        button(QStringLiteral("CommandShowSetDaisuu"), QStringLiteral("代数設定"), FrameMain);
+        commandButton(QStringLiteral("CommandSetFont"), QStringLiteral("フォント"), FrameMain);
+    CommandShowSetButton = commandButton(QStringLiteral("CommandShowSetButton"),
+                                         QStringLiteral("表示ボタン"), FrameMain);
+    CommandShowSetDaisuu = commandButton(QStringLiteral("CommandShowSetDaisuu"),
+                                         QStringLiteral("代数設定"), FrameMain);
     CommandMakeHTML =
-        button(QStringLiteral("CommandMakeHTML"), QStringLiteral("HTML作成"), FrameMain);
+        commandButton(QStringLiteral("CommandMakeHTML"), QStringLiteral("HTML作成"), FrameMain);
     auto* row = new QHBoxLayout(FrameMain);
     row->setContentsMargins(6, 6, 6, 6);
     for (QPushButton* b :
@@ -139,7 +116,7 @@ void FormMakeHTML::buildFrameMain()
 
 void FormMakeHTML::buildFrameSetDir()
 {
-    FrameSetDir = frame(QStringLiteral("FrameSetDir"), this);
+    FrameSetDir = named<QGroupBox>(QStringLiteral("FrameSetDir"), this);
     QWidget* f = FrameSetDir;
     TextPosKeepHTML = textBox(QStringLiteral("TextPosKeepHTML"), f, kPathWidth);
     TextHTMLPageName = textBox(QStringLiteral("TextHTMLPageName"), f, kPathWidth);
@@ -147,24 +124,28 @@ void FormMakeHTML::buildFrameSetDir()
     TextPosMedia = textBox(QStringLiteral("TextPosMedia"), f, kPathWidth);
     TextPosButton = textBox(QStringLiteral("TextPosButton"), f, kPathWidth);
     TextOyaFileName = textBox(QStringLiteral("TextOyaFileName"), f);
-    CheckConvertSmallChara =
-        checkBox(QStringLiteral("CheckConvertSmallChara"),
-                 QStringLiteral("メデャイアファイル名、ディレクトリー名等を小文字にする"), f);
-    CheckDelHTMLFolder = checkBox(QStringLiteral("CheckDelHTMLFolder"),
-                                  QStringLiteral("[HTML作成]で、ﾃﾞｨﾚｸﾄﾘｰを全部消して作り直す"), f);
-    CheckWAVConvert = checkBox(QStringLiteral("CheckWAVConvert"),
-                               QStringLiteral("WAVファイルをMP3に変換して保存する。"), f);
+    CheckConvertSmallChara = named<QCheckBox>(
+        QStringLiteral("CheckConvertSmallChara"),
+        QStringLiteral("メデャイアファイル名、ディレクトリー名等を小文字にする"), f);
+    CheckDelHTMLFolder =
+        named<QCheckBox>(QStringLiteral("CheckDelHTMLFolder"),
+                         QStringLiteral("[HTML作成]で、ﾃﾞｨﾚｸﾄﾘｰを全部消して作り直す"), f);
+    CheckWAVConvert = named<QCheckBox>(QStringLiteral("CheckWAVConvert"),
+                                       QStringLiteral("WAVファイルをMP3に変換して保存する。"), f);
     TextMP3CompR = textBox(QStringLiteral("TextMP3CompR"), f, 50);
-    HScrollMP3CompR = new QScrollBar(Qt::Horizontal, f);
-    HScrollMP3CompR->setObjectName(QStringLiteral("HScrollMP3CompR"));
+    HScrollMP3CompR = named<QScrollBar>(QStringLiteral("HScrollMP3CompR"), Qt::Horizontal, f);
     HScrollMP3CompR->setRange(0, 100);
     HScrollMP3CompR->setSingleStep(1);
     HScrollMP3CompR->setPageStep(10);
     HScrollMP3CompR->setMinimumWidth(200);
-    CommandSelectFolder = button(QStringLiteral("CommandSelectFolder"), QStringLiteral("参照"), f);
-    CommandMakeFolder = button(QStringLiteral("CommandMakeFolder"), QStringLiteral("ﾌｫﾙﾀﾞ作成"), f);
-    CommandDelFolder = button(QStringLiteral("CommandDelFolder"), QStringLiteral("ﾌｫﾙﾀﾞ削除"), f);
-    CommandInitialSet = button(QStringLiteral("CommandInitialSet"), QStringLiteral("初期設定"), f);
+    CommandSelectFolder =
+        commandButton(QStringLiteral("CommandSelectFolder"), QStringLiteral("参照"), f);
+    CommandMakeFolder =
+        commandButton(QStringLiteral("CommandMakeFolder"), QStringLiteral("ﾌｫﾙﾀﾞ作成"), f);
+    CommandDelFolder =
+        commandButton(QStringLiteral("CommandDelFolder"), QStringLiteral("ﾌｫﾙﾀﾞ削除"), f);
+    CommandInitialSet =
+        commandButton(QStringLiteral("CommandInitialSet"), QStringLiteral("初期設定"), f);
 
     auto* grid = new QGridLayout(f);
     grid->addWidget(heading(QStringLiteral("* 保存場所等の設定 *"), f), 0, 0, 1, 3);
@@ -207,7 +188,7 @@ void FormMakeHTML::buildFrameSetDir()
 
 void FormMakeHTML::buildFrameSetFont()
 {
-    FrameSetFont = frame(QStringLiteral("FrameSetFont"), this);
+    FrameSetFont = named<QGroupBox>(QStringLiteral("FrameSetFont"), this);
     QWidget* f = FrameSetFont;
     TextBackCol = textBox(QStringLiteral("TextBackCol"), f, kValueWidth);
     TextNumFontName = textBox(QStringLiteral("TextNumFontName"), f, kValueWidth);
@@ -239,7 +220,7 @@ void FormMakeHTML::buildFrameSetFont()
 
 void FormMakeHTML::buildFrameSetButton()
 {
-    FrameSetButton = frame(QStringLiteral("FrameSetButton"), this);
+    FrameSetButton = named<QGroupBox>(QStringLiteral("FrameSetButton"), this);
     QWidget* f = FrameSetButton;
     struct Row {
         const char16_t* label;
@@ -306,7 +287,7 @@ void FormMakeHTML::buildFrameSetButton()
         row.kept->hide();
         row.kept->setPicture(builtInButtonPicture(row.icon));
         row.picture->setPicture(row.kept->picture());
-        row.find = button(QString::fromLatin1(row.names[3]), QStringLiteral("参照"), f);
+        row.find = commandButton(QString::fromLatin1(row.names[3]), QStringLiteral("参照"), f);
         grid->addWidget(new QLabel(QString::fromUtf16(row.label), f), r, 0);
         grid->addWidget(row.path, r, 1);
         grid->addWidget(row.picture, r, 2);
@@ -318,13 +299,13 @@ void FormMakeHTML::buildFrameSetButton()
 
 void FormMakeHTML::buildFrameSetDaisuu()
 {
-    FrameSetDaisuu = frame(QStringLiteral("FrameSetDaisuu"), this);
+    FrameSetDaisuu = named<QGroupBox>(QStringLiteral("FrameSetDaisuu"), this);
     QWidget* f = FrameSetDaisuu;
     auto* grid = new QGridLayout(f);
     constexpr int kRowsPerColumn = kReplaceWords / 2;
     for (int index = 0; index < kReplaceWords; ++index) {
-        auto* label = new QLabel(replaceWordLabels()[index], f);
-        label->setObjectName(QStringLiteral("LabelReplaceWord"));
+        auto* label =
+            named<QLabel>(QStringLiteral("LabelReplaceWord"), replaceWordLabels()[index], f);
         label->setProperty("Index", index);
         auto* word = textBox(QStringLiteral("ExchageWord"), f, 200);
         word->setProperty("Index", index);
@@ -336,8 +317,8 @@ void FormMakeHTML::buildFrameSetDaisuu()
     }
     grid->setColumnMinimumWidth(2, 190);
     CommandDaeisuuInitialSet =
-        button(QStringLiteral("CommandDaeisuuInitialSet"), QStringLiteral("初期設定"), f);
-    CommandSetDaisuu = button(QStringLiteral("CommandSetDaisuu"), QStringLiteral("設定"), f);
+        commandButton(QStringLiteral("CommandDaeisuuInitialSet"), QStringLiteral("初期設定"), f);
+    CommandSetDaisuu = commandButton(QStringLiteral("CommandSetDaisuu"), QStringLiteral("設定"), f);
     auto* commands = new QHBoxLayout;
     commands->addStretch(1);
     commands->addWidget(CommandDaeisuuInitialSet);

@@ -9,7 +9,6 @@
 #include "platform/UserDialogs.h"
 #include "state/ProgramState.h"
 
-#include <QFileInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -21,14 +20,6 @@ namespace {
 
 const QString kHtmlFilter = QStringLiteral("(*.html)|*.html|(*.*)|*.*");
 constexpr float kGap = 10; // twips between the frame and the text
-
-QPushButton* button(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* b = new QPushButton(caption, parent);
-    b->setObjectName(name);
-    b->setAutoDefault(false);
-    return b;
-}
 
 void colourRange(QTextEdit* edit, int from, int length, qint32 bgr)
 {
@@ -48,23 +39,21 @@ FormRichText::FormRichText(VeroProcedure_Basical& basics, FormMakeHTML& owner, Q
     , owner_(owner)
 {
     setWindowTitle(QStringLiteral("RitchText"));
-    Frame1 = new QGroupBox(this);
-    Frame1->setObjectName(QStringLiteral("Frame1"));
+    Frame1 = named<QGroupBox>(QStringLiteral("Frame1"), this);
     CommandMakeSample =
-        button(QStringLiteral("CommandMakeSample"), QStringLiteral("←ｻﾝﾌﾟﾙ作成"), Frame1);
+        commandButton(QStringLiteral("CommandMakeSample"), QStringLiteral("←ｻﾝﾌﾟﾙ作成"), Frame1);
     CommandCheck =
-        button(QStringLiteral("CommandCheck"), QStringLiteral("↓チェックｷｰﾜｰﾄﾞ"), Frame1);
-    CommandDelSampleHtml = button(QStringLiteral("CommandDelSampleHtml"),
-                                  QStringLiteral("SampleHtml.html削除"), Frame1);
-    CommandSave = button(QStringLiteral("CommandSave"), QStringLiteral("保存"), Frame1);
-    CommandOpen = button(QStringLiteral("CommandOpen"), QStringLiteral("開く"), Frame1);
+        commandButton(QStringLiteral("CommandCheck"), QStringLiteral("↓チェックｷｰﾜｰﾄﾞ"), Frame1);
+    CommandDelSampleHtml = commandButton(QStringLiteral("CommandDelSampleHtml"),
+                                         QStringLiteral("SampleHtml.html削除"), Frame1);
+    CommandSave = commandButton(QStringLiteral("CommandSave"), QStringLiteral("保存"), Frame1);
+    CommandOpen = commandButton(QStringLiteral("CommandOpen"), QStringLiteral("開く"), Frame1);
     auto* row = new QHBoxLayout(Frame1);
     row->setContentsMargins(6, 6, 6, 6);
     for (QPushButton* b :
          {CommandMakeSample, CommandCheck, CommandDelSampleHtml, CommandSave, CommandOpen})
         row->addWidget(b);
-    RText1 = new QTextEdit(this);
-    RText1->setObjectName(QStringLiteral("RText1"));
+    RText1 = named<QTextEdit>(QStringLiteral("RText1"), this);
     RText1->setAcceptRichText(false);
     RText1->setLineWrapMode(QTextEdit::NoWrap);
     resize(qMax(Frame1->sizeHint().width(), 720), 520);
@@ -146,7 +135,7 @@ void FormRichText::CommandSave_Click()
         windowTitle(), fs.toNative(owner_.maker().templatePath()), kHtmlFilter);
     if (!chosen)
         return;
-    fs.chDir(fs.toProgram(QFileInfo(*chosen).absolutePath()));
+    fs.chDirToFolderOf(*chosen);
     basics_.WriteTextToFile(text(), fs.toProgram(*chosen));
 }
 
@@ -157,7 +146,7 @@ void FormRichText::CommandOpen_Click()
         windowTitle(), fs.toNative(owner_.maker().templatePath()), kHtmlFilter);
     if (!chosen)
         return;
-    fs.chDir(fs.toProgram(QFileInfo(*chosen).absolutePath()));
+    fs.chDirToFolderOf(*chosen);
     setText(basics_.ReadTextOfFile(fs.toProgram(*chosen)));
     CommandCheck_Click();
 }

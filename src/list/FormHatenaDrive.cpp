@@ -20,17 +20,9 @@ using namespace basic;
 
 QComboBox* makeCombo(const QString& name, QWidget* parent)
 {
-    auto* combo = new QComboBox(parent);
-    combo->setObjectName(name);
+    auto* combo = named<QComboBox>(name, parent);
     combo->setEditable(true);
     return combo;
-}
-
-QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    return button;
 }
 
 // "C:" of a text that holds a drive, or "" when it holds no ":".
@@ -56,8 +48,8 @@ FormHatenaDrive::FormHatenaDrive(VeroProcedure_Basical& basics, QWidget* parent)
     Dir1 = new DirListBox(fs, QStringLiteral("Dir1"), this);
     File1 = new FileListBox(fs, QStringLiteral("File1"), this);
     File1->setPattern(QStringLiteral("*.Lst"));
-    CommandDo = makeButton(QStringLiteral("CommandDo"), QStringLiteral("設定"), this);
-    CommandExit = makeButton(QStringLiteral("CommandExit"), QStringLiteral("終了"), this);
+    CommandDo = named<QPushButton>(QStringLiteral("CommandDo"), QStringLiteral("設定"), this);
+    CommandExit = named<QPushButton>(QStringLiteral("CommandExit"), QStringLiteral("終了"), this);
     setBackColor(CommandDo, 0x80FF80);
 
     auto* grid = new QGridLayout(this);

@@ -91,17 +91,6 @@ qsizetype findEndWord(QStringView line, qsizetype equals, const ListWords::Item&
     return find(line, item.end, equals);
 }
 
-QStringView trimmed(QStringView text)
-{
-    qsizetype start = 0;
-    qsizetype end = text.size();
-    while (start < end && text[start] == QLatin1Char(' '))
-        ++start;
-    while (end > start && text[end - 1] == QLatin1Char(' '))
-        --end;
-    return text.mid(start, end - start);
-}
-
 } // namespace
 
 LineKind lineKindOf(QStringView line)
@@ -166,10 +155,10 @@ void parseListLineViews(QStringView line, const ListWords& words, ListRowViews& 
     const QStringView view = line;
     const qsizetype firstAt = view.indexOf(QLatin1Char('@'));
     if (firstAt < 0 || !view.contains(QLatin1Char('='))) {
-        row.main = trimmed(view);
+        row.main = TrimView(view);
         return;
     }
-    row.main = trimmed(view.left(firstAt));
+    row.main = TrimView(view.left(firstAt));
     const bool lowerPossible = words.anyLowerDiffers && (words.lowerPrefix.isEmpty() ||
                                                          find(view, words.lowerPrefix, 0) >= 0);
     // Each "@" in turn; every turn uses up at least one, so the count of "@"
@@ -200,7 +189,7 @@ void parseListLineViews(QStringView line, const ListWords& words, ListRowViews& 
             row.missingEndWord = QStringLiteral(" There is no word ") + QLatin1String(item->name);
             break;
         }
-        store(row, item->start, trimmed(view.mid(equals + 1, end - equals - 1)));
+        store(row, item->start, TrimView(view.mid(equals + 1, end - equals - 1)));
         from = end;
     }
 }

@@ -24,18 +24,6 @@ void setRow(StringGrid& grid, int row, const ListRowViews& values)
     grid.set(kColOption, row, values.option);
 }
 
-// Trim: blanks only.
-QStringView trimmedBlanks(QStringView text)
-{
-    qsizetype start = 0;
-    qsizetype end = text.size();
-    while (start < end && text[start] == QLatin1Char(' '))
-        ++start;
-    while (end > start && text[end - 1] == QLatin1Char(' '))
-        --end;
-    return text.mid(start, end - start);
-}
-
 } // namespace
 
 QString workingCopyName(const VeroProcedure_Basical& basics)
@@ -111,7 +99,7 @@ ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int c
         setRow(state.ListArray, fill.fileCount, parsed);
         if (!parsed.missingEndWord.isEmpty())
             basics.services().ui.msgBox(parsed.missingEndWord);
-        const QStringView trimmed = withDisplayText ? trimmedBlanks(line) : QStringView();
+        const QStringView trimmed = withDisplayText ? TrimView(line) : QStringView();
         if (!trimmed.isEmpty()) {
             display += trimmed;
             display += QStringLiteral("\r\n");

@@ -283,6 +283,17 @@ QString Trim(const QString& text)
     return LTrim(RTrim(text));
 }
 
+QStringView TrimView(QStringView text)
+{
+    qsizetype start = 0;
+    qsizetype end = text.size();
+    while (start < end && text[start] == u' ')
+        ++start;
+    while (end > start && text[end - 1] == u' ')
+        --end;
+    return text.mid(start, end - start);
+}
+
 QString LTrim(const QString& text)
 {
     qsizetype start = 0;

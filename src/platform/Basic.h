@@ -39,7 +39,8 @@ QString Str(double value);
 // general form, as CStr: "2.5".
 QString Format(double value, const QString& pattern);
 
-QString Trim(const QString& text); // blanks (U+0020) at both ends
+QString Trim(const QString& text);      // blanks (U+0020) at both ends
+QStringView TrimView(QStringView text); // Trim without a copy
 QString LTrim(const QString& text);
 QString RTrim(const QString& text);
 QString UCase(const QString& text); // capitals, full-width letters included

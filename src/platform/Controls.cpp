@@ -3,6 +3,7 @@
 #include "platform/Colors.h"
 #include "platform/Twips.h"
 
+#include <QPushButton>
 #include <QVariant>
 #include <QWidget>
 
@@ -24,6 +25,13 @@ bool isTopLevel(const QWidget* widget)
 }
 
 } // namespace
+
+QPushButton* commandButton(const QString& name, const QString& caption, QWidget* parent)
+{
+    auto* button = named<QPushButton>(name, caption, parent);
+    button->setAutoDefault(false);
+    return button;
+}
 
 void setBackColor(QWidget* widget, qint32 bgr)
 {

@@ -348,6 +348,11 @@ bool FileSystem::chDir(const QString& programPath)
     return true;
 }
 
+void FileSystem::chDirToFolderOf(const QString& nativeFile)
+{
+    chDir(toProgram(QFileInfo(nativeFile).absolutePath()));
+}
+
 QString FileSystem::dir(const QString& pathOrPattern) const
 {
     if (pathOrPattern.isEmpty() || pathOrPattern.contains(u"://"))

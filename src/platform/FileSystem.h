@@ -48,6 +48,8 @@ public:
     // root ("C:\", "C:\shows"), with the names as they stand on disk.
     QString curDir() const { return current_; }
     bool chDir(const QString& programPath); // false when it isn't a folder
+    // An accepted file dialog: the current folder becomes the chosen file's.
+    void chDirToFolderOf(const QString& nativeFile);
 
     // Program form to native, each part resolved as above. Parts that don't
     // exist are kept as given. An address ("://"), an empty text and a path

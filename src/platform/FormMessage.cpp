@@ -14,8 +14,7 @@ FormMessage::FormMessage(QWidget* parent)
 {
     setObjectName(QStringLiteral("FormMessage"));
     setAttribute(Qt::WA_ShowWithoutActivating);
-    Label1 = new QLabel(this);
-    Label1->setObjectName(QStringLiteral("Label1"));
+    Label1 = named<QLabel>(QStringLiteral("Label1"), this);
     Label1->setMargin(3);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);

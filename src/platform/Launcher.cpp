@@ -13,16 +13,6 @@ namespace {
 constexpr int kOpened = 42; // ShellExecute's answers
 constexpr int kNotFound = 2;
 
-bool isExecutableFile(const QString& native)
-{
-    if (native.isEmpty())
-        return false;
-    const QFileInfo info(native);
-    constexpr auto kExecBits =
-        QFileDevice::ExeOwner | QFileDevice::ExeGroup | QFileDevice::ExeOther;
-    return info.isFile() && (info.permissions() & kExecBits);
-}
-
 // A word holding ":\" is a program-form path; one on an unknown drive
 // stays as written.
 QString argumentWord(const QString& word, const FileSystem& fs)
@@ -34,6 +24,16 @@ QString argumentWord(const QString& word, const FileSystem& fs)
 }
 
 } // namespace
+
+bool isExecutableFile(const QString& native)
+{
+    if (native.isEmpty())
+        return false;
+    const QFileInfo info(native);
+    constexpr auto kExecBits =
+        QFileDevice::ExeOwner | QFileDevice::ExeGroup | QFileDevice::ExeOther;
+    return info.isFile() && (info.permissions() & kExecBits);
+}
 
 std::optional<QStringList> splitCommandLine(const QString& commandLine, const FileSystem& fs)
 {

@@ -10,12 +10,15 @@ namespace lumen {
 
 class FileSystem;
 
+// A file that may be started: a file, not a folder, with an exec bit set.
+bool isExecutableFile(const QString& native);
+
 // The Windows launcher's rule: the shortest blank-separated prefix that names
-// an existing executable file (a file, not a folder, with an exec bit set) is
-// the program; the rest is split at blanks, and words holding ":\" become
-// native paths (one on an unknown drive stays as written). Leading blanks are
-// passed over; there is no quoting and no search of PATH. Nothing when no
-// prefix names a program. Returns native argv.
+// an executable file (isExecutableFile) is the program; the rest is split at
+// blanks, and words holding ":\" become native paths (one on an unknown drive
+// stays as written). Leading blanks are passed over; there is no quoting and
+// no search of PATH. Nothing when no prefix names a program. Returns native
+// argv.
 std::optional<QStringList> splitCommandLine(const QString& commandLine, const FileSystem& fs);
 
 class Launcher {

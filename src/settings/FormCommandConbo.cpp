@@ -3,6 +3,7 @@
 #include "fileops/VeroProcedure_Basical.h"
 #include "list/CommandWords.h"
 #include "platform/Basic.h"
+#include "platform/Controls.h"
 #include "platform/Fonts.h"
 #include "state/ProgramState.h"
 
@@ -34,12 +35,10 @@ FormCommandConbo::FormCommandConbo(VeroProcedure_Basical& basics, SetTargets tar
     , targets_(std::move(targets))
 {
     setWindowTitle(QStringLiteral("ｵﾌﾟｼｮﾝｺﾏﾝﾄﾞ"));
-    ComboCommandList = new QComboBox(this);
-    ComboCommandList->setObjectName(QStringLiteral("ComboCommandList"));
+    ComboCommandList = named<QComboBox>(QStringLiteral("ComboCommandList"), this);
     ComboCommandList->setEditable(true);
     ComboCommandList->setMinimumContentsLength(18);
-    CommandDo = new QPushButton(QStringLiteral("実行"), this);
-    CommandDo->setObjectName(QStringLiteral("CommandDo"));
+    CommandDo = named<QPushButton>(QStringLiteral("CommandDo"), QStringLiteral("実行"), this);
     auto* row = new QHBoxLayout(this);
     row->addWidget(ComboCommandList, 1);
     row->addWidget(CommandDo);

@@ -28,13 +28,6 @@ const QString kAllPattern = QStringLiteral("*.*");
 const QString kShowAll = QStringLiteral("全部表示");
 const QString kShowPrograms = QStringLiteral("Exe表示");
 
-QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    return button;
-}
-
 } // namespace
 
 FormSendApliSet::FormSendApliSet(VeroProcedure_Basical& basics, QWidget* parent)
@@ -46,16 +39,14 @@ FormSendApliSet::FormSendApliSet(VeroProcedure_Basical& basics, QWidget* parent)
     Drive1 = new DriveListBox(fs, QStringLiteral("Drive1"), this);
     Dir1 = new DirListBox(fs, QStringLiteral("Dir1"), this);
     File1 = new FileListBox(fs, QStringLiteral("File1"), this);
-    OptionZenbuHyouji = new QRadioButton(kShowAll, this);
-    OptionZenbuHyouji->setObjectName(QStringLiteral("OptionZenbuHyouji"));
-    TextDirectry = new QLineEdit(this);
-    TextDirectry->setObjectName(QStringLiteral("TextDirectry"));
-    Text1 = new QPlainTextEdit(this);
-    Text1->setObjectName(QStringLiteral("Text1"));
+    OptionZenbuHyouji = named<QRadioButton>(QStringLiteral("OptionZenbuHyouji"), kShowAll, this);
+    TextDirectry = named<QLineEdit>(QStringLiteral("TextDirectry"), this);
+    Text1 = named<QPlainTextEdit>(QStringLiteral("Text1"), this);
     Text1->setLineWrapMode(QPlainTextEdit::NoWrap);
-    CommandDo = makeButton(QStringLiteral("CommandDo"), QStringLiteral("設定"), this);
-    CommandReset = makeButton(QStringLiteral("CommandReset"), QStringLiteral("初期設定"), this);
-    CommandExit = makeButton(QStringLiteral("CommandExit"), QStringLiteral("終了"), this);
+    CommandDo = named<QPushButton>(QStringLiteral("CommandDo"), QStringLiteral("設定"), this);
+    CommandReset =
+        named<QPushButton>(QStringLiteral("CommandReset"), QStringLiteral("初期設定"), this);
+    CommandExit = named<QPushButton>(QStringLiteral("CommandExit"), QStringLiteral("終了"), this);
     showProgramsOnly(true);
     layOut();
 

@@ -2,6 +2,7 @@
 
 #include "fileops/VeroProcedure_Basical.h"
 #include "platform/Basic.h"
+#include "platform/Controls.h"
 #include "platform/Launcher.h"
 #include "settings/AutoStartTable.h"
 #include "settings/SendToList.h"
@@ -19,13 +20,6 @@ namespace lumen {
 namespace {
 
 using namespace basic;
-
-QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    return button;
-}
 
 // The send-to entry of a line: its text up to the first ",", unless that
 // names one of the show's own surfaces.
@@ -47,16 +41,16 @@ FormSendTo::FormSendTo(VeroProcedure_Basical& basics, QWidget* parent)
     , basics_(basics)
 {
     setWindowTitle(QStringLiteral("実行ｱﾌﾟﾘｹｰｼｮﾝ選択"));
-    ComboSend = new QComboBox(this);
-    ComboSend->setObjectName(QStringLiteral("ComboSend"));
+    ComboSend = named<QComboBox>(QStringLiteral("ComboSend"), this);
     ComboSend->setEditable(true);
     ComboSend->setEditText(QStringLiteral("ComboSend"));
     ComboSend->setMinimumWidth(320);
     ComboSend->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    CommandDo = makeButton(QStringLiteral("CommandDo"), QStringLiteral("Send"), this);
-    CommandSetting = makeButton(QStringLiteral("CommandSetting"), QStringLiteral("設定"), this);
-    LabelCheckLen = new QLabel(QStringLiteral("CheckLen"), this);
-    LabelCheckLen->setObjectName(QStringLiteral("LabelCheckLen"));
+    CommandDo = named<QPushButton>(QStringLiteral("CommandDo"), QStringLiteral("Send"), this);
+    CommandSetting =
+        named<QPushButton>(QStringLiteral("CommandSetting"), QStringLiteral("設定"), this);
+    LabelCheckLen =
+        named<QLabel>(QStringLiteral("LabelCheckLen"), QStringLiteral("CheckLen"), this);
     LabelCheckLen->hide(); // only measures
 
     auto* row = new QHBoxLayout(this);

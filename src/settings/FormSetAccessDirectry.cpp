@@ -9,7 +9,6 @@
 #include "settings/ProgramCandidates.h"
 #include "state/ProgramState.h"
 
-#include <QFileInfo>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
@@ -67,27 +66,6 @@ const QString kClosingNote1 =
 const QString kClosingNote2 =
     QStringLiteral("3D画像を見るためにはLattice Viewerが必要です。インストールしてありますか？");
 
-QLineEdit* makeBox(const QString& name, const QString& text, QWidget* parent)
-{
-    auto* box = new QLineEdit(text, parent);
-    box->setObjectName(name);
-    return box;
-}
-
-QLabel* makeLabel(const QString& name, const QString& text, QWidget* parent)
-{
-    auto* label = new QLabel(text, parent);
-    label->setObjectName(name);
-    return label;
-}
-
-QPushButton* makeButton(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* button = new QPushButton(caption, parent);
-    button->setObjectName(name);
-    return button;
-}
-
 QFrame* makeRule(QWidget* parent)
 {
     auto* rule = new QFrame(parent);
@@ -111,11 +89,11 @@ FormSetAccessDirectry::FormSetAccessDirectry(VeroProcedure_Basical& basics, QWid
     setWindowTitle(QStringLiteral("☆　編集作業のための、アプリケーション指定　☆"));
     for (int i = 0; i < kRows; ++i) {
         const Row& row = rows()[size_t(i)];
-        rowBoxes_[size_t(i)] = makeBox(QString::fromLatin1(row.box), row.designText, this);
+        rowBoxes_[size_t(i)] = named<QLineEdit>(QString::fromLatin1(row.box), row.designText, this);
         setForeColor(rowBox(i), kColorRed);
-        Label11[size_t(i)] = makeLabel(QStringLiteral("Label11_%1").arg(i), row.name, this);
-        CommandApliPos[size_t(i)] =
-            makeButton(QStringLiteral("CommandApliPos_%1").arg(i), QStringLiteral("参照..."), this);
+        Label11[size_t(i)] = named<QLabel>(QStringLiteral("Label11_%1").arg(i), row.name, this);
+        CommandApliPos[size_t(i)] = named<QPushButton>(QStringLiteral("CommandApliPos_%1").arg(i),
+                                                       QStringLiteral("参照..."), this);
         connect(CommandApliPos[size_t(i)], &QPushButton::clicked, this,
                 [this, i] { CommandApliPos_Click(i); });
     }
@@ -125,32 +103,34 @@ FormSetAccessDirectry::FormSetAccessDirectry(VeroProcedure_Basical& basics, QWid
     TextSnd = rowBoxes_[3];
     TextIE = rowBoxes_[4];
     TextPic = rowBoxes_[5];
-    TextIntialAccessDirectry =
-        makeBox(QStringLiteral("TextIntialAccessDirectry"), QStringLiteral("C:\\Lumentas"), this);
-    TextDirectryProgramRunning = makeBox(QStringLiteral("TextDirectryProgramRunning"),
-                                         QStringLiteral("C:\\Lumentas\\ForProgramRun"), this);
+    TextIntialAccessDirectry = named<QLineEdit>(QStringLiteral("TextIntialAccessDirectry"),
+                                                QStringLiteral("C:\\Lumentas"), this);
+    TextDirectryProgramRunning =
+        named<QLineEdit>(QStringLiteral("TextDirectryProgramRunning"),
+                         QStringLiteral("C:\\Lumentas\\ForProgramRun"), this);
     for (QLineEdit* fixed : {TextIntialAccessDirectry, TextDirectryProgramRunning}) {
         fixed->setReadOnly(true);
         setBackColor(fixed, kColorButtonFace);
     }
-    CommandExit = makeButton(QStringLiteral("CommandExit"), QStringLiteral("設定/完了"), this);
+    CommandExit =
+        named<QPushButton>(QStringLiteral("CommandExit"), QStringLiteral("設定/完了"), this);
     CommandExit->setEnabled(false);
     connect(CommandExit, &QPushButton::clicked, this, &FormSetAccessDirectry::CommandExit_Click);
 
     const std::array<QLabel*, 6> notes{
-        makeLabel(QStringLiteral("Label1"),
-                  QStringLiteral("プログラムが最初にアプローチするディレクトリー"), this),
-        makeLabel(QStringLiteral("Label2"),
-                  QStringLiteral("使用者が設定した値を格納しているディレクトリー"), this),
-        makeLabel(QStringLiteral("Label3"),
-                  QStringLiteral("↓下記の設定は固定されて変更することはできません。"), this),
-        makeLabel(QStringLiteral("Label4"),
-                  QStringLiteral("下記の表示用のアプリケーションの指定が正しくない場合は、"
-                                 "手動で再設定してください。"),
-                  this),
-        makeLabel(QStringLiteral("Label5"),
-                  QStringLiteral("↓全部青色の表示になっていれば設定は完了できます"), this),
-        makeLabel(
+        named<QLabel>(QStringLiteral("Label1"),
+                      QStringLiteral("プログラムが最初にアプローチするディレクトリー"), this),
+        named<QLabel>(QStringLiteral("Label2"),
+                      QStringLiteral("使用者が設定した値を格納しているディレクトリー"), this),
+        named<QLabel>(QStringLiteral("Label3"),
+                      QStringLiteral("↓下記の設定は固定されて変更することはできません。"), this),
+        named<QLabel>(QStringLiteral("Label4"),
+                      QStringLiteral("下記の表示用のアプリケーションの指定が正しくない場合は、"
+                                     "手動で再設定してください。"),
+                      this),
+        named<QLabel>(QStringLiteral("Label5"),
+                      QStringLiteral("↓全部青色の表示になっていれば設定は完了できます"), this),
+        named<QLabel>(
             QStringLiteral("Label6"),
             QStringLiteral("↑赤色表示された所は、アプリケーションが見つからなかりませんでした。"),
             this),
@@ -292,7 +272,7 @@ void FormSetAccessDirectry::CommandApliPos_Click(int index)
         Label11[size_t(index)]->text(), fs.toNative(FolderOfPath(rowField(index))), filter);
     if (!chosen)
         return;
-    fs.chDir(fs.toProgram(QFileInfo(*chosen).absolutePath()));
+    fs.chDirToFolderOf(*chosen);
     const QString program = fs.toProgram(*chosen);
     if (!acceptsChoice(index, *chosen, program))
         return;

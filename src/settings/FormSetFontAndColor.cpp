@@ -21,21 +21,6 @@ namespace {
 
 using namespace basic;
 
-QPushButton* button(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* b = new QPushButton(caption, parent);
-    b->setObjectName(name);
-    b->setAutoDefault(false);
-    return b;
-}
-
-QLabel* label(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* l = new QLabel(caption, parent);
-    l->setObjectName(name);
-    return l;
-}
-
 // A colour button shows its colour; a field that isn't a number shows grey.
 void showColor(QPushButton* swatch, const QString& text)
 {
@@ -51,24 +36,25 @@ FormSetFontAndColor::FormSetFontAndColor(VeroProcedure_Basical& basics, SetTarge
     , targets_(std::move(targets))
 {
     setWindowTitle(QStringLiteral("ﾌｫﾝﾄと色の指定"));
-    Combo1 = new QComboBox(this);
-    Combo1->setObjectName(QStringLiteral("Combo1"));
+    Combo1 = named<QComboBox>(QStringLiteral("Combo1"), this);
     Combo1->setEditable(true);
     Combo1->setMinimumContentsLength(12);
     CommandSaveAs =
-        button(QStringLiteral("CommandSaveAs"), QStringLiteral("名前を付けて記憶"), this);
-    CommandFont = button(QStringLiteral("CommandFont"), QStringLiteral("ﾌｫﾝﾄ"), this);
-    LabelFont = label(QStringLiteral("LabelFont"), QString(), this);
-    CommandForeColor = button(QStringLiteral("CommandForeColor"), QString(), this);
-    LabelForeColor = label(QStringLiteral("LabelForeColor"), QStringLiteral("文字の色"), this);
-    CommandBackColor = button(QStringLiteral("CommandBackColor"), QString(), this);
-    LabelBackColor = label(QStringLiteral("LabelBackColor"), QStringLiteral("背景色"), this);
-    LabelSample = label(QStringLiteral("LabelSample"), QString(), this);
+        commandButton(QStringLiteral("CommandSaveAs"), QStringLiteral("名前を付けて記憶"), this);
+    CommandFont = commandButton(QStringLiteral("CommandFont"), QStringLiteral("ﾌｫﾝﾄ"), this);
+    LabelFont = named<QLabel>(QStringLiteral("LabelFont"), QString(), this);
+    CommandForeColor = commandButton(QStringLiteral("CommandForeColor"), QString(), this);
+    LabelForeColor =
+        named<QLabel>(QStringLiteral("LabelForeColor"), QStringLiteral("文字の色"), this);
+    CommandBackColor = commandButton(QStringLiteral("CommandBackColor"), QString(), this);
+    LabelBackColor =
+        named<QLabel>(QStringLiteral("LabelBackColor"), QStringLiteral("背景色"), this);
+    LabelSample = named<QLabel>(QStringLiteral("LabelSample"), QString(), this);
     LabelSample->setAlignment(Qt::AlignCenter);
     LabelSample->setFrameShape(QFrame::Box);
     LabelSample->setMinimumHeight(56);
-    CommandReset = button(QStringLiteral("CommandReset"), QStringLiteral("設定ｸﾘｱ"), this);
-    CommandExit = button(QStringLiteral("CommandExit"), QStringLiteral("終了"), this);
+    CommandReset = commandButton(QStringLiteral("CommandReset"), QStringLiteral("設定ｸﾘｱ"), this);
+    CommandExit = commandButton(QStringLiteral("CommandExit"), QStringLiteral("終了"), this);
     layOut();
 
     connect(CommandSaveAs, &QPushButton::clicked, this, &FormSetFontAndColor::CommandSaveAs_Click);
@@ -184,21 +170,22 @@ void FormSetFontAndColor::CommandFont_Click()
 
 void FormSetFontAndColor::CommandForeColor_Click()
 {
-    FontColorSet set = current();
-    const auto chosen = basics_.services().ui.chooseColor(bgrFromText(set.secondColor));
-    if (!chosen)
-        return;
-    set.secondColor = bgrToHexText(*chosen);
-    take(set);
+    chooseColor(&FontColorSet::secondColor);
 }
 
 void FormSetFontAndColor::CommandBackColor_Click()
 {
+    chooseColor(&FontColorSet::firstColor);
+}
+
+// The colour dialog starts at the field's colour; a choice is taken at once.
+void FormSetFontAndColor::chooseColor(QString FontColorSet::*color)
+{
     FontColorSet set = current();
-    const auto chosen = basics_.services().ui.chooseColor(bgrFromText(set.firstColor));
+    const auto chosen = basics_.services().ui.chooseColor(bgrFromText(set.*color));
     if (!chosen)
         return;
-    set.firstColor = bgrToHexText(*chosen);
+    set.*color = bgrToHexText(*chosen);
     take(set);
 }
 

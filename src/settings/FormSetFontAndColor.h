@@ -55,6 +55,7 @@ protected:
 private:
     FontColorSet current() const;
     void take(const FontColorSet& set); // into the record and onto the show
+    void chooseColor(QString FontColorSet::*color);
     void showSet();
     void layOut();
 

@@ -1,8 +1,8 @@
 #include "settings/ProgramCandidates.h"
 
 #include "platform/FileSystem.h"
+#include "platform/Launcher.h"
 
-#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace lumen {
@@ -76,12 +76,7 @@ QString findProgram(ProgramRole role, const QString& systemFolder, const FileSys
 
 bool isProgramFile(const QString& nativePath)
 {
-    if (nativePath.isEmpty())
-        return false;
-    const QFileInfo info(nativePath);
-    constexpr auto kExecBits =
-        QFileDevice::ExeOwner | QFileDevice::ExeGroup | QFileDevice::ExeOther;
-    return info.isFile() && (info.permissions() & kExecBits);
+    return isExecutableFile(nativePath);
 }
 
 } // namespace lumen

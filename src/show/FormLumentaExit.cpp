@@ -20,10 +20,9 @@ FormLumentaExit::FormLumentaExit(VeroProcedure_Basical& basics, FormMain& main, 
     , main_(main)
 {
     setWindowTitle(QStringLiteral("Lumenta_KDR"));
-    CommandMainNormDisp = new QPushButton(QStringLiteral("標準表示"), this);
-    CommandMainNormDisp->setObjectName(QStringLiteral("CommandMainNormDisp"));
-    CommandEnd = new QPushButton(QStringLiteral("終了"), this);
-    CommandEnd->setObjectName(QStringLiteral("CommandEnd"));
+    CommandMainNormDisp =
+        named<QPushButton>(QStringLiteral("CommandMainNormDisp"), QStringLiteral("標準表示"), this);
+    CommandEnd = named<QPushButton>(QStringLiteral("CommandEnd"), QStringLiteral("終了"), this);
     auto* row = new QHBoxLayout(this);
     row->addWidget(CommandMainNormDisp);
     row->addWidget(CommandEnd);

@@ -29,45 +29,6 @@
 #include <QVBoxLayout>
 
 namespace lumen {
-namespace {
-
-QPushButton* button(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* b = new QPushButton(caption, parent);
-    b->setObjectName(name);
-    b->setAutoDefault(false);
-    return b;
-}
-
-QCheckBox* checkBox(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* box = new QCheckBox(caption, parent);
-    box->setObjectName(name);
-    return box;
-}
-
-QLineEdit* textBox(const QString& name, const QString& text, QWidget* parent)
-{
-    auto* box = new QLineEdit(text, parent);
-    box->setObjectName(name);
-    return box;
-}
-
-QGroupBox* frame(const QString& name, QWidget* parent)
-{
-    auto* box = new QGroupBox(parent);
-    box->setObjectName(name);
-    return box;
-}
-
-QScrollBar* scrollBar(const QString& name, QWidget* parent)
-{
-    auto* bar = new QScrollBar(Qt::Horizontal, parent);
-    bar->setObjectName(name);
-    return bar;
-}
-
-} // namespace
 
 FormMain::FormMain(VeroProcedure_Basical& basics, FormRegistry& forms, QWidget* parent)
     : FormBase(QStringLiteral("FormMain"), parent)
@@ -86,34 +47,35 @@ FormMain::FormMain(VeroProcedure_Basical& basics, FormRegistry& forms, QWidget* 
 
 void FormMain::buildFrame1()
 {
-    Frame1 = frame(QStringLiteral("Frame1"), this);
+    Frame1 = named<QGroupBox>(QStringLiteral("Frame1"), this);
     Frame1->setFixedWidth(106);
     CommandOpenFileList =
-        button(QStringLiteral("CommandOpenFileList"), QStringLiteral("ﾘｽﾄを開く"), Frame1);
+        commandButton(QStringLiteral("CommandOpenFileList"), QStringLiteral("ﾘｽﾄを開く"), Frame1);
     CommandOpenFileList->setAcceptDrops(true);
-    CheckQuiCkWork = checkBox(QStringLiteral("CheckQuiCkWork"), QStringLiteral("ｸｲｯｸ"), Frame1);
+    CheckQuiCkWork =
+        named<QCheckBox>(QStringLiteral("CheckQuiCkWork"), QStringLiteral("ｸｲｯｸ"), Frame1);
     LabelDo = new ClickLabel(QStringLiteral("LabelDo"), QStringLiteral("表示"), Frame1);
     LabelDo->setAlignment(Qt::AlignCenter);
     LabelDo->setFrameShape(QFrame::Box);
-    CommandLeft = button(QStringLiteral("CommandLeft"), QStringLiteral("←"), Frame1);
-    CommandRight = button(QStringLiteral("CommandRight"), QStringLiteral("→"), Frame1);
+    CommandLeft = commandButton(QStringLiteral("CommandLeft"), QStringLiteral("←"), Frame1);
+    CommandRight = commandButton(QStringLiteral("CommandRight"), QStringLiteral("→"), Frame1);
     LabelSmall = new ClickLabel(QStringLiteral("LabelSmall"), QString(), Frame1);
     LabelMax = new ClickLabel(QStringLiteral("LabelMax"), QString(), Frame1);
     for (ClickLabel* end : {LabelSmall, LabelMax}) {
         end->setFixedSize(8, 16);
         setBackColor(end, kColorGrey);
     }
-    HScrollPicNom = scrollBar(QStringLiteral("HScrollPicNom"), Frame1);
+    HScrollPicNom = named<QScrollBar>(QStringLiteral("HScrollPicNom"), Qt::Horizontal, Frame1);
     HScrollPicNom->setRange(0, 1);
     HScrollPicNom->setTracking(false); // Change on release; Scroll while dragging
-    TextCount = textBox(QStringLiteral("TextCount"), QString(), Frame1);
-    TextTotal = textBox(QStringLiteral("TextTotal"), QString(), Frame1);
+    TextCount = named<QLineEdit>(QStringLiteral("TextCount"), QString(), Frame1);
+    TextTotal = named<QLineEdit>(QStringLiteral("TextTotal"), QString(), Frame1);
     TextTotal->setReadOnly(true);
     CommandHatenaSettei =
-        button(QStringLiteral("CommandHatenaSettei"), QStringLiteral("ﾄﾞﾗｲﾌﾞ設定"), Frame1);
-    CommandIELeft = button(QStringLiteral("CommandIELeft"), QStringLiteral("戻"), Frame1);
-    CommandIERight = button(QStringLiteral("CommandIERight"), QStringLiteral("進"), Frame1);
-    CommandExit = button(QStringLiteral("CommandExit"), QStringLiteral("終了"), Frame1);
+        commandButton(QStringLiteral("CommandHatenaSettei"), QStringLiteral("ﾄﾞﾗｲﾌﾞ設定"), Frame1);
+    CommandIELeft = commandButton(QStringLiteral("CommandIELeft"), QStringLiteral("戻"), Frame1);
+    CommandIERight = commandButton(QStringLiteral("CommandIERight"), QStringLiteral("進"), Frame1);
+    CommandExit = commandButton(QStringLiteral("CommandExit"), QStringLiteral("終了"), Frame1);
 
     auto* column = new QVBoxLayout(Frame1);
     column->setContentsMargins(4, 6, 4, 6);
@@ -148,20 +110,23 @@ void FormMain::buildFrame1()
 
 void FormMain::buildFrame2()
 {
-    Frame2 = frame(QStringLiteral("Frame2"), this);
-    CommandModPic = button(QStringLiteral("CommandModPic"), QStringLiteral("線の作図"), Frame2);
+    Frame2 = named<QGroupBox>(QStringLiteral("Frame2"), this);
+    CommandModPic =
+        commandButton(QStringLiteral("CommandModPic"), QStringLiteral("線の作図"), Frame2);
     CommandSaveImage =
-        button(QStringLiteral("CommandSaveImage"), QStringLiteral("画像保存"), Frame2);
-    CommandScrollSizeAllowValue =
-        button(QStringLiteral("CommandScrollSizeAllowValue"), QStringLiteral("許容値"), Frame2);
+        commandButton(QStringLiteral("CommandSaveImage"), QStringLiteral("画像保存"), Frame2);
+    CommandScrollSizeAllowValue = commandButton(QStringLiteral("CommandScrollSizeAllowValue"),
+                                                QStringLiteral("許容値"), Frame2);
     CheckOriginalSize =
-        checkBox(QStringLiteral("CheckOriginalSize"), QStringLiteral("原寸"), Frame2);
-    CommandFull = button(QStringLiteral("CommandFull"), QStringLiteral("FILL表示"), Frame2);
-    CommandOption = button(QStringLiteral("CommandOption"), QStringLiteral("自動ﾍﾟｰｼﾞ"), Frame2);
-    CommandEdit = button(QStringLiteral("CommandEdit"), QStringLiteral("ﾘｽﾄ作成"), Frame2);
-    CommandWriteCommentOnPic = button(QStringLiteral("CommandWriteCommentOnPic"),
-                                      QStringLiteral("画像にｺﾒﾝﾄ貼付け"), Frame2);
-    CommandMakeHTML = button(QStringLiteral("CommandMakeHTML"), QStringLiteral("HTML作成"), Frame2);
+        named<QCheckBox>(QStringLiteral("CheckOriginalSize"), QStringLiteral("原寸"), Frame2);
+    CommandFull = commandButton(QStringLiteral("CommandFull"), QStringLiteral("FILL表示"), Frame2);
+    CommandOption =
+        commandButton(QStringLiteral("CommandOption"), QStringLiteral("自動ﾍﾟｰｼﾞ"), Frame2);
+    CommandEdit = commandButton(QStringLiteral("CommandEdit"), QStringLiteral("ﾘｽﾄ作成"), Frame2);
+    CommandWriteCommentOnPic = commandButton(QStringLiteral("CommandWriteCommentOnPic"),
+                                             QStringLiteral("画像にｺﾒﾝﾄ貼付け"), Frame2);
+    CommandMakeHTML =
+        commandButton(QStringLiteral("CommandMakeHTML"), QStringLiteral("HTML作成"), Frame2);
     auto* row = new QHBoxLayout(Frame2);
     row->setContentsMargins(4, 2, 4, 2);
     row->setSpacing(3);
@@ -177,30 +142,32 @@ void FormMain::buildFrame2()
 
 void FormMain::buildFrame3()
 {
-    Frame3 = frame(QStringLiteral("Frame3"), this);
-    TextFileName = textBox(QStringLiteral("TextFileName"), QString(), Frame3);
-    TextHeadName = textBox(QStringLiteral("TextHeadName"), QStringLiteral("MyPicture"), Frame3);
-    TextNum = textBox(QStringLiteral("TextNum"), QStringLiteral("001"), Frame3);
+    Frame3 = named<QGroupBox>(QStringLiteral("Frame3"), this);
+    TextFileName = named<QLineEdit>(QStringLiteral("TextFileName"), QString(), Frame3);
+    TextHeadName =
+        named<QLineEdit>(QStringLiteral("TextHeadName"), QStringLiteral("MyPicture"), Frame3);
+    TextNum = named<QLineEdit>(QStringLiteral("TextNum"), QStringLiteral("001"), Frame3);
     TextHeadName->setFixedWidth(90);
     TextNum->setFixedWidth(40);
-    CommandCopy = button(QStringLiteral("CommandCopy"), QStringLiteral("ｺﾋﾟｰ"), Frame3);
-    CommandDeleate = button(QStringLiteral("CommandDeleate"), QStringLiteral("削除"), Frame3);
-    CommandRecov = button(QStringLiteral("CommandRecov"), QStringLiteral("復元"), Frame3);
-    FrameTextHide = frame(QStringLiteral("FrameTextHide"), Frame3);
-    CheckWaveHide =
-        checkBox(QStringLiteral("CheckWaveHide"), QStringLiteral("隠サウンド"), FrameTextHide);
-    CheckCommentHide =
-        checkBox(QStringLiteral("CheckCommentHide"), QStringLiteral("隠コメント"), FrameTextHide);
-    CheckTextHide =
-        checkBox(QStringLiteral("CheckTextHide"), QStringLiteral("隠テキスト"), FrameTextHide);
+    CommandCopy = commandButton(QStringLiteral("CommandCopy"), QStringLiteral("ｺﾋﾟｰ"), Frame3);
+    CommandDeleate =
+        commandButton(QStringLiteral("CommandDeleate"), QStringLiteral("削除"), Frame3);
+    CommandRecov = commandButton(QStringLiteral("CommandRecov"), QStringLiteral("復元"), Frame3);
+    FrameTextHide = named<QGroupBox>(QStringLiteral("FrameTextHide"), Frame3);
+    CheckWaveHide = named<QCheckBox>(QStringLiteral("CheckWaveHide"), QStringLiteral("隠サウンド"),
+                                     FrameTextHide);
+    CheckCommentHide = named<QCheckBox>(QStringLiteral("CheckCommentHide"),
+                                        QStringLiteral("隠コメント"), FrameTextHide);
+    CheckTextHide = named<QCheckBox>(QStringLiteral("CheckTextHide"), QStringLiteral("隠テキスト"),
+                                     FrameTextHide);
     auto* hide = new QHBoxLayout(FrameTextHide);
     hide->setContentsMargins(4, 0, 4, 0);
     hide->addWidget(CheckWaveHide);
     hide->addWidget(CheckCommentHide);
     hide->addWidget(CheckTextHide);
-    CommandSendTo = button(QStringLiteral("CommandSendTo"), QStringLiteral("Send"), Frame3);
+    CommandSendTo = commandButton(QStringLiteral("CommandSendTo"), QStringLiteral("Send"), Frame3);
     CheckUseCyberView =
-        checkBox(QStringLiteral("CheckUseCyberView"), QStringLiteral("3D表示"), Frame3);
+        named<QCheckBox>(QStringLiteral("CheckUseCyberView"), QStringLiteral("3D表示"), Frame3);
 
     auto* grid = new QGridLayout(Frame3);
     grid->setContentsMargins(4, 3, 4, 3);
@@ -228,8 +195,7 @@ void FormMain::buildDisplay()
     Picture2 = new PictureBox(QStringLiteral("Picture2"), Picture1);
     Picture2->setAutoSize(true); // sized by the picture it holds
     Picture3 = new PictureBox(QStringLiteral("Picture3"), Picture1);
-    Text1 = new QPlainTextEdit(Picture1);
-    Text1->setObjectName(QStringLiteral("Text1"));
+    Text1 = named<QPlainTextEdit>(QStringLiteral("Text1"), Picture1);
     Text1->hide();
     Media& media = basics_.services().media;
     WebBrowser1 = new WebBrowser(QStringLiteral("WebBrowser1"), media.createWebSurface(), Picture1);
@@ -259,13 +225,12 @@ void FormMain::buildDisplay()
     LabelComment = new ClickLabel(QStringLiteral("LabelComment"), QString(), Picture1);
     LabelComment->hide();
     CommandNoText =
-        button(QStringLiteral("CommandNoText"), QStringLiteral("ﾘｽﾄを閉じる"), Picture1);
+        commandButton(QStringLiteral("CommandNoText"), QStringLiteral("ﾘｽﾄを閉じる"), Picture1);
     CommandNoText->hide();
-    HScroll1 = scrollBar(QStringLiteral("HScroll1"), this);
+    HScroll1 = named<QScrollBar>(QStringLiteral("HScroll1"), Qt::Horizontal, this);
     HScroll1->resize(HScroll1->width(), HScroll1->sizeHint().height());
     HScroll1->hide();
-    VScroll1 = new QScrollBar(Qt::Vertical, this);
-    VScroll1->setObjectName(QStringLiteral("VScroll1"));
+    VScroll1 = named<QScrollBar>(QStringLiteral("VScroll1"), Qt::Vertical, this);
     VScroll1->resize(VScroll1->sizeHint().width(), VScroll1->height());
     VScroll1->hide();
 }

@@ -27,6 +27,7 @@ class FormRegistry;
 class PictureBox;
 class VeroProcedure_Basical;
 struct ProgramState;
+template <int N> class FixedString;
 
 // What the main window needs from the application around it.
 struct FormMainLinks {
@@ -244,6 +245,7 @@ private:
                        const QString& letters);
     void centreVideo();
     void playMovieOverWeb(const QString& programPath);
+    void showIn3DViewer(const FixedString<100>& viewerPath);
     void buildFrame1();
     void buildFrame2();
     void buildFrame3();

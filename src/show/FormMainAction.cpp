@@ -357,22 +357,22 @@ void FormMain::ShowText()
 
 void FormMain::ShowVrml()
 {
-    CleareDisp(QString());
-    companionRule(false);
-    if (CheckUseCyberView->isChecked())
-        basics_.services().launcher.shell(FixedText(state_.DirecData.VrmlViewerPath) +
-                                          QLatin1Char(' ') + mainFile());
-    else
-        setBackColor(CheckUseCyberView, kColorYellow);
+    showIn3DViewer(state_.DirecData.VrmlViewerPath);
 }
 
 void FormMain::ShowNff()
 {
+    showIn3DViewer(state_.DirecData.CyberViewPath);
+}
+
+// The page goes to the outside 3D viewer when CheckUseCyberView allows it;
+// otherwise the box turns yellow.
+void FormMain::showIn3DViewer(const FixedString<100>& viewerPath)
+{
     CleareDisp(QString());
     companionRule(false);
     if (CheckUseCyberView->isChecked())
-        basics_.services().launcher.shell(FixedText(state_.DirecData.CyberViewPath) +
-                                          QLatin1Char(' ') + mainFile());
+        basics_.services().launcher.shell(FixedText(viewerPath) + QLatin1Char(' ') + mainFile());
     else
         setBackColor(CheckUseCyberView, kColorYellow);
 }

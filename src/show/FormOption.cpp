@@ -36,13 +36,6 @@ constexpr int kTimerMs = 1000;        // Timer1
 constexpr double kMediumPollMs = 100; // the wait for a medium's end, step by step
 constexpr int kTooMuch = 5;           // the bar may run five times its length
 
-QRadioButton* option(const QString& name, const QString& caption, QWidget* parent)
-{
-    auto* button = new QRadioButton(caption, parent);
-    button->setObjectName(name);
-    return button;
-}
-
 ClickLabel* image(const QString& name, QStyle::StandardPixmap pixmap, QWidget* parent)
 {
     auto* label = new ClickLabel(name, QString(), parent);
@@ -63,43 +56,34 @@ FormOption::FormOption(VeroProcedure_Basical& basics, FormMain& main, QWidget* p
     , main_(main)
 {
     setWindowTitle(QStringLiteral("自動ﾍﾟｰｼﾞ"));
-    Frame1 = new QGroupBox(QStringLiteral("間隔 (秒)"), this);
-    Frame1->setObjectName(QStringLiteral("Frame1"));
+    Frame1 = named<QGroupBox>(QStringLiteral("Frame1"), QStringLiteral("間隔 (秒)"), this);
     Frame1->installEventFilter(this);
-    TextIntervalTime = new QLineEdit(Frame1);
-    TextIntervalTime->setObjectName(QStringLiteral("TextIntervalTime"));
+    TextIntervalTime = named<QLineEdit>(QStringLiteral("TextIntervalTime"), Frame1);
     TextIntervalTime->setFixedWidth(64);
-    HScroll1 = new QScrollBar(Qt::Horizontal, Frame1);
-    HScroll1->setObjectName(QStringLiteral("HScroll1"));
+    HScroll1 = named<QScrollBar>(QStringLiteral("HScroll1"), Qt::Horizontal, Frame1);
     HScroll1->setRange(0, 60);
     HScroll1->setPageStep(5);
 
-    OptionFowerd = option(QStringLiteral("OptionFowerd"), QStringLiteral("順方向"), this);
-    OptionBack = option(QStringLiteral("OptionBack"), QStringLiteral("逆方向"), this);
-    OptionLoop = option(QStringLiteral("OptionLoop"), QStringLiteral("ﾙｰﾌﾟ"), this);
+    OptionFowerd =
+        named<QRadioButton>(QStringLiteral("OptionFowerd"), QStringLiteral("順方向"), this);
+    OptionBack = named<QRadioButton>(QStringLiteral("OptionBack"), QStringLiteral("逆方向"), this);
+    OptionLoop = named<QRadioButton>(QStringLiteral("OptionLoop"), QStringLiteral("ﾙｰﾌﾟ"), this);
     OptionFowerd->setChecked(true);
     ImageFowerd = image(QStringLiteral("ImageFowerd"), QStyle::SP_ArrowRight, this);
     ImageBack = image(QStringLiteral("ImageBack"), QStyle::SP_ArrowLeft, this);
     ImageLoop = image(QStringLiteral("ImageLoop"), QStyle::SP_BrowserReload, this);
 
-    CommandStart = new QPushButton(QStringLiteral("ｽﾀｰﾄ"), this);
-    CommandStart->setObjectName(QStringLiteral("CommandStart"));
-    CommandStop = new QPushButton(QStringLiteral("ｽﾄｯﾌﾟ"), this);
-    CommandStop->setObjectName(QStringLiteral("CommandStop"));
-    for (QPushButton* b : {CommandStart, CommandStop})
-        b->setAutoDefault(false);
+    CommandStart = commandButton(QStringLiteral("CommandStart"), QStringLiteral("ｽﾀｰﾄ"), this);
+    CommandStop = commandButton(QStringLiteral("CommandStop"), QStringLiteral("ｽﾄｯﾌﾟ"), this);
 
-    LabelBack = new QLabel(this);
-    LabelBack->setObjectName(QStringLiteral("LabelBack"));
+    LabelBack = named<QLabel>(QStringLiteral("LabelBack"), this);
     LabelBack->setFixedSize(kBarPixels, 10);
     setBackColor(LabelBack, kColorGrey);
-    LabelTimer = new QLabel(LabelBack);
-    LabelTimer->setObjectName(QStringLiteral("LabelTimer"));
+    LabelTimer = named<QLabel>(QStringLiteral("LabelTimer"), LabelBack);
     LabelTimer->setGeometry(0, 0, 0, 10);
     setBackColor(LabelTimer, kColorGreen);
 
-    Timer1 = new QTimer(this);
-    Timer1->setObjectName(QStringLiteral("Timer1"));
+    Timer1 = named<QTimer>(QStringLiteral("Timer1"), this);
     Timer1->setInterval(kTimerMs);
     layOut();
 

@@ -14,69 +14,19 @@ exe=$1
 src=$2
 out=$3
 mkdir -p "$out"
-
-home=$(mktemp -d)
-pid=
-cleanup() {
-  [ -n "$pid" ] && kill "$pid" 2>/dev/null || true
-  rm -rf "$home"
-}
-trap cleanup EXIT
-
-settings=$home/Lumentas/ForProgramRun_KDR
-mkdir -p "$settings"
-# A settings record past its first start: a comment font, and AutoPageInterval 3.
-head -c 1547 /dev/zero > "$settings/DirecData.ran"
-printf 'MS UI Gothic' | dd of="$settings/DirecData.ran" bs=1 seek=900 conv=notrunc status=none
+# shellcheck source-path=SCRIPTDIR source=lib.sh
+source "$(dirname "$0")/lib.sh"
+# The settings record also holds AutoPageInterval 3.
 printf '\003\000' | dd of="$settings/DirecData.ran" bs=1 seek=1095 conv=notrunc status=none
+start_demo
 
-HOME=$home "$src/scripts/demo-list" "$home/demo.lst"
-HOME=$home QT_QPA_PLATFORM=xcb "$exe" "$home/demo.lst" &
-pid=$!
-
-fail() {
-  echo "FAIL: $*" >&2
-  cat "$settings/StateDump.txt" >&2 2>/dev/null || true
-  exit 1
-}
-for _ in $(seq 1 100); do
-  [ -f "$settings/StartFromWhere.dat" ] && break
-  sleep 0.1
-done
-dump() {
-  rm -f "$settings/StateDump.txt"
-  kill -USR1 "$pid"
-  for _ in $(seq 1 20); do
-    [ -f "$settings/StateDump.txt" ] && return 0
-    sleep 0.05
-  done
-  return 1
-}
-# Waits until the state dump has a line matching the pattern.
-await() {
-  for _ in $(seq 1 80); do
-    dump && grep -q "$1" "$settings/StateDump.txt" && return 0
-    sleep 0.1
-  done
-  return 1
-}
-value() { # the value of a line of the last dump
-  sed -n "s/^$1=//p" "$settings/StateDump.txt" | tr -d '\r'
-}
-click() { # a button named in the dump as Click.<window>.<button>
-  await "^Click\.$1=" || fail "$1 is not on show"
-  read -r x y < <(value "Click\.$1")
-  xdotool mousemove --sync "$x" "$y" click 1
-}
 cpu_ticks() { # user and system time of the process, in clock ticks
   awk '{ print $14 + $15 }' "/proc/$pid/stat"
 }
 
 await '^TextFileName=.*\\sunrise\.png' || fail "the demo list didn't open"
 # Escape ends the half-minute view of the list; the stop window goes with it.
-window=$(xdotool search --sync --onlyvisible --class lumenta | head -n 1)
-xdotool windowfocus --sync "$window" 2>/dev/null || true
-xdotool key --clearmodifiers Escape
+key Escape
 for _ in $(seq 1 40); do
   dump && ! grep -q '^Shown=FormStop' "$settings/StateDump.txt" && break
   sleep 0.1

@@ -10,51 +10,9 @@ exe=$1
 src=$2
 out=$3
 mkdir -p "$out"
-
-home=$(mktemp -d)
-pid=
-cleanup() {
-  [ -n "$pid" ] && kill "$pid" 2>/dev/null || true
-  rm -rf "$home"
-}
-trap cleanup EXIT
-
-settings=$home/Lumentas/ForProgramRun_KDR
-mkdir -p "$settings"
-# A settings record past its first start: a comment font is set.
-head -c 1547 /dev/zero > "$settings/DirecData.ran"
-printf 'MS UI Gothic' | dd of="$settings/DirecData.ran" bs=1 seek=900 conv=notrunc status=none
-
-HOME=$home "$src/scripts/demo-list" "$home/demo.lst"
-HOME=$home QT_QPA_PLATFORM=xcb "$exe" "$home/demo.lst" &
-pid=$!
-
-fail() {
-  echo "FAIL: $*" >&2
-  cat "$settings/StateDump.txt" >&2 2>/dev/null || true
-  exit 1
-}
-
-# The program answers SIGUSR1 with StateDump.txt once Main has begun.
-for _ in $(seq 1 100); do
-  [ -f "$settings/StartFromWhere.dat" ] && break
-  sleep 0.1
-done
-# Waits until the state dump has a line matching the pattern.
-await() {
-  for _ in $(seq 1 40); do
-    rm -f "$settings/StateDump.txt"
-    kill -USR1 "$pid"
-    sleep 0.25
-    grep -q "$1" "$settings/StateDump.txt" 2>/dev/null && return 0
-  done
-  return 1
-}
-key() {
-  window=$(xdotool search --sync --onlyvisible --class lumenta | head -n 1)
-  xdotool windowfocus --sync "$window" 2>/dev/null || true
-  xdotool key --clearmodifiers "$1"
-}
+# shellcheck source-path=SCRIPTDIR source=lib.sh
+source "$(dirname "$0")/lib.sh"
+start_demo
 
 await '^TextFileName=.*\\sunrise\.png' || fail "the first page's file name never reached TextFileName"
 grep -q '^TextTotal=6' "$settings/StateDump.txt" || fail "TextTotal is not 6"
