@@ -52,7 +52,6 @@ private Q_SLOTS:
 void TestFormBase::loadsOnceUntilUnloaded()
 {
     CountingForm form;
-    QCOMPARE(form.objectName(), QStringLiteral("FormCounting"));
     form.showForm();
     form.showForm();
     QCOMPARE(form.loads, 1);
@@ -126,7 +125,6 @@ void TestFormBase::twipsGeometry()
 void TestFormBase::coloursReadBack()
 {
     QLabel label;
-    QCOMPARE(backColor(&label), -1);
     setBackColor(&label, kColorYellow);
     setForeColor(&label, kColorRed);
     QCOMPARE(backColor(&label), kColorYellow);
