@@ -33,23 +33,15 @@ void TestBasicText::trimLineEnds_data()
 {
     QTest::addColumn<QString>("in");
     QTest::addColumn<QString>("out");
-    QTest::newRow("blanks") << "  a b  "
-                            << "a b";
-    QTest::newRow("crlf end") << "a.jpg\r\n"
-                              << "a.jpg";
-    QTest::newRow("blanks behind crlf") << "a.jpg \r\n  "
-                                        << "a.jpg";
-    QTest::newRow("nul padding") << QString("abc") + QString(5, QChar(0)) << "abc";
-    QTest::newRow("crlf at start kept blanks") << "\r\n  a"
-                                               << "  a";
-    QTest::newRow("tab kept") << "\ta\t"
-                              << "\ta\t";
-    QTest::newRow("ideographic blank kept")
-        << QString::fromUtf8("\u3000a\u3000") << QString::fromUtf8("\u3000a\u3000");
-    QTest::newRow("only line ends") << "\r\n\r\n"
-                                    << "";
-    QTest::newRow("empty") << ""
-                           << "";
+    const auto row = [](const char* tag, const QString& in, const QString& out) {
+        QTest::newRow(tag) << in << out;
+    };
+    row("blanks behind crlf", "a.jpg \r\n  ", "a.jpg");
+    row("nul padding", QString("abc") + QString(5, QChar(0)), "abc");
+    row("crlf at start kept blanks", "\r\n  a", "  a");
+    row("tab kept", "\ta\t", "\ta\t");
+    row("ideographic blank kept", QString::fromUtf8("\u3000a\u3000"),
+        QString::fromUtf8("\u3000a\u3000"));
 }
 
 void TestBasicText::trimLineEnds()
@@ -70,14 +62,13 @@ void TestBasicText::fixedText_data()
 {
     QTest::addColumn<QString>("field");
     QTest::addColumn<QString>("text");
-    QTest::newRow("all NUL") << QString(15, QChar(0)) << "";
-    QTest::newRow("empty") << ""
-                           << "";
-    QTest::newRow("padded") << "MS UI Gothic   "
-                            << "MS UI Gothic";
-    QTest::newRow("NULs then blanks then text")
-        << QString(2, QChar(0)) + "  abc  " + QString(3, QChar(0)) << "abc";
-    QTest::newRow("all blanks") << QString(15, ' ') << "";
+    const auto row = [](const char* tag, const QString& field, const QString& text) {
+        QTest::newRow(tag) << field << text;
+    };
+    row("all NUL", QString(15, QChar(0)), "");
+    row("padded", "MS UI Gothic   ", "MS UI Gothic");
+    row("NULs then blanks then text", QString(2, QChar(0)) + "  abc  " + QString(3, QChar(0)),
+        "abc");
 }
 
 void TestBasicText::fixedText()
@@ -94,36 +85,17 @@ void TestBasicText::pathParts_data()
     QTest::addColumn<QString>("afterBackslash");
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("lastFolder");
-    QTest::newRow("file") << "C:\\pics\\a.jpg"
-                          << "a.jpg"
-                          << "a.jpg"
-                          << "C:\\pics\\"
-                          << "pics";
-    QTest::newRow("folder") << "C:\\pics\\trip"
-                            << "trip"
-                            << "trip"
-                            << "C:\\pics\\"
-                            << "trip";
-    QTest::newRow("bare name") << "a.jpg"
-                               << "a.jpg"
-                               << ""
-                               << ""
-                               << "a.jpg";
-    QTest::newRow("address") << "http://x.jp/d\\e/p.html"
-                             << "p.html"
-                             << "e/p.html"
-                             << "http://x.jp/d\\"
-                             << "http://x.jp/d";
-    QTest::newRow("trailing backslash") << "C:\\pics\\"
-                                        << ""
-                                        << ""
-                                        << "C:\\pics\\"
-                                        << "";
-    QTest::newRow("dotted folder") << "C:\\a.b\\c"
-                                   << "c"
-                                   << "c"
-                                   << "C:\\a.b\\"
-                                   << "c";
+    const auto row = [](const char* tag, const QString& path, const QString& fileName,
+                        const QString& afterBackslash, const QString& folder,
+                        const QString& lastFolder) {
+        QTest::newRow(tag) << path << fileName << afterBackslash << folder << lastFolder;
+    };
+    row("file", "C:\\pics\\a.jpg", "a.jpg", "a.jpg", "C:\\pics\\", "pics");
+    row("bare name", "a.jpg", "a.jpg", "", "", "a.jpg");
+    row("address", "http://x.jp/d\\e/p.html", "p.html", "e/p.html", "http://x.jp/d\\",
+        "http://x.jp/d");
+    row("trailing backslash", "C:\\pics\\", "", "", "C:\\pics\\", "");
+    row("dotted folder", "C:\\a.b\\c", "c", "c", "C:\\a.b\\", "c");
 }
 
 void TestBasicText::pathParts()
@@ -140,21 +112,12 @@ void TestBasicText::dots_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("before");
     QTest::addColumn<QString>("after");
-    QTest::newRow("one dot") << "a.jpg"
-                             << "a"
-                             << "jpg";
-    QTest::newRow("two dots split at first") << "a.b.c"
-                                             << "a"
-                                             << "b.c";
-    QTest::newRow("no dot") << "readme"
-                            << ""
-                            << "";
-    QTest::newRow("dotted folder in path") << "c:\\a.b\\c"
-                                           << "c:\\a"
-                                           << "b\\c";
-    QTest::newRow("leading dot") << ".x"
-                                 << ""
-                                 << "x";
+    const auto row = [](const char* tag, const QString& name, const QString& before,
+                        const QString& after) { QTest::newRow(tag) << name << before << after; };
+    row("two dots split at first", "a.b.c", "a", "b.c");
+    row("no dot", "readme", "", "");
+    row("dotted folder in path", "c:\\a.b\\c", "c:\\a", "b\\c");
+    row("leading dot", ".x", "", "x");
 }
 
 void TestBasicText::dots()
@@ -169,21 +132,14 @@ void TestBasicText::backslashes_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("stripped");
     QTest::addColumn<QString>("collapsed");
-    QTest::newRow("plain") << "C:\\a"
-                           << "C:\\a"
-                           << "C:\\a";
-    QTest::newRow("trailing") << "C:\\a\\\\ "
-                              << "C:\\a"
-                              << "C:\\a\\";
-    QTest::newRow("blank") << "   "
-                           << ""
-                           << "";
-    QTest::newRow("two doubles, first collapsed") << "C:\\\\a\\\\b"
-                                                  << "C:\\\\a\\\\b"
-                                                  << "C:\\a\\\\b";
-    QTest::newRow("root") << "C:\\"
-                          << "C:"
-                          << "C:\\";
+    const auto row = [](const char* tag, const QString& path, const QString& stripped,
+                        const QString& collapsed) {
+        QTest::newRow(tag) << path << stripped << collapsed;
+    };
+    row("trailing", "C:\\a\\\\ ", "C:\\a", "C:\\a\\");
+    row("blank", "   ", "", "");
+    row("two doubles, first collapsed", "C:\\\\a\\\\b", "C:\\\\a\\\\b", "C:\\a\\\\b");
+    row("root", "C:\\", "C:", "C:\\");
 }
 
 void TestBasicText::backslashes()
@@ -199,42 +155,16 @@ void TestBasicText::serchAndReplace_data()
     QTest::addColumn<QString>("find");
     QTest::addColumn<QString>("replacement");
     QTest::addColumn<QString>("result");
-    QTest::newRow("every hit") << "c:\\a c:\\b"
-                               << "c:"
-                               << "*:"
-                               << "*:\\a *:\\b";
-    QTest::newRow("case-sensitive") << "c:\\a"
-                                    << "C:"
-                                    << "*:"
-                                    << "c:\\a";
-    QTest::newRow("find in replacement ends") << "aaa"
-                                              << "a"
-                                              << "aa"
-                                              << "aaaaaa";
-    QTest::newRow("no overlap") << "aaaa"
-                                << "aa"
-                                << "b"
-                                << "bb";
-    QTest::newRow("absent") << "abc"
-                            << "x"
-                            << "y"
-                            << "abc";
-    QTest::newRow("find longer than text") << "ab"
-                                           << "abc"
-                                           << "y"
-                                           << "ab";
-    QTest::newRow("empty find") << "abc"
-                                << ""
-                                << "y"
-                                << "abc";
-    QTest::newRow("empty text") << ""
-                                << "a"
-                                << "b"
-                                << "";
-    QTest::newRow("to empty") << "a-b-c"
-                              << "-"
-                              << ""
-                              << "abc";
+    const auto row = [](const char* tag, const QString& source, const QString& find,
+                        const QString& replacement, const QString& result) {
+        QTest::newRow(tag) << source << find << replacement << result;
+    };
+    row("every hit", "c:\\a c:\\b", "c:", "*:", "*:\\a *:\\b");
+    row("case-sensitive", "c:\\a", "C:", "*:", "c:\\a");
+    row("find in replacement ends", "aaa", "a", "aa", "aaaaaa");
+    row("no overlap", "aaaa", "aa", "b", "bb");
+    row("empty find", "abc", "", "y", "abc");
+    row("to empty", "a-b-c", "-", "", "abc");
 }
 
 void TestBasicText::serchAndReplace()
@@ -256,18 +186,11 @@ void TestBasicText::pair_data()
     QTest::addColumn<QString>("pair");
     QTest::addColumn<QString>("from");
     QTest::addColumn<QString>("to");
-    QTest::newRow("plain") << "C:\\a.jpg,C:\\b.jpg"
-                           << "C:\\a.jpg"
-                           << "C:\\b.jpg";
-    QTest::newRow("comma in target") << "C:\\a.jpg,C:\\b,c.jpg"
-                                     << "C:\\a.jpg"
-                                     << "C:\\b,c.jpg";
-    QTest::newRow("no comma") << "C:\\a.jpg"
-                              << "C:\\a.jpg"
-                              << "";
-    QTest::newRow("blank after comma") << "a, b"
-                                       << "a"
-                                       << " b";
+    const auto row = [](const char* tag, const QString& pair, const QString& from,
+                        const QString& to) { QTest::newRow(tag) << pair << from << to; };
+    row("comma in target", "C:\\a.jpg,C:\\b,c.jpg", "C:\\a.jpg", "C:\\b,c.jpg");
+    row("no comma", "C:\\a.jpg", "C:\\a.jpg", "");
+    row("blank after comma", "a, b", "a", " b");
 }
 
 void TestBasicText::pair()
