@@ -63,18 +63,11 @@ void TestFormHatenaDrive::commandDoTakesThePair_data()
     QTest::addColumn<QString>("drive");
     QTest::addColumn<QString>("from");
     QTest::addColumn<QString>("to");
-    QTest::newRow("plain") << "?:"
-                           << "D:"
-                           << "?:"
-                           << "D:";
-    QTest::newRow("trimmed, capitals, cut at the colon") << " ?: "
-                                                         << " e:\\media "
-                                                         << "?:"
-                                                         << "E:";
-    QTest::newRow("no colon gives no drive") << "?:"
-                                             << "D"
-                                             << "?:"
-                                             << "";
+    const auto row = [](const char* tag, const QString& mark, const QString& drive,
+                        const QString& from,
+                        const QString& to) { QTest::newRow(tag) << mark << drive << from << to; };
+    row("trimmed, capitals, cut at the colon", " ?: ", " e:\\media ", "?:", "E:");
+    row("no colon gives no drive", "?:", "D", "?:", "");
 }
 
 void TestFormHatenaDrive::commandDoTakesThePair()

