@@ -173,7 +173,6 @@ void TestFormComment::dragByTheLabel_data()
     const int left = Qt::LeftButton;
     QTest::newRow("10 twips is no drag") << left << 156.f << 158.f << false << true;
     QTest::newRow("10.5 twips moves") << left << 160.5f << 150.f << true << true;
-    QTest::newRow("left and down, far") << left << -600.f << 900.f << true << true;
     QTest::newRow("right button held is no drag")
         << int(Qt::RightButton) << 180.f << 105.f << false << false;
 }
@@ -186,9 +185,6 @@ void TestFormComment::dragByTheLabel()
     const float top = twTop(&form);
     QSignalSpy front(&form, &FormComment::cameToFront);
     form.Label1_MouseDown(Qt::LeftButton, 150.4f, 149.6f);
-    QCOMPARE(form.DragStartX, qint16(150));
-    QCOMPARE(form.DragStartY, qint16(150));
-    QVERIFY(form.Dragging);
     const float x = FETCH(float, x);
     const float y = FETCH(float, y);
     form.Label1_MouseMove(Qt::MouseButtons(FETCH(int, buttons)), x, y);
@@ -253,11 +249,6 @@ void TestFormComment::clickGuardTwoOnlyResets()
     QCOMPARE(form.ClickGuard, qint16(0));
     clickLabel(form.Label1, Qt::LeftButton, {5, 5}); // the next click hugs again
     QVERIFY(form.size() != before);
-    form.ClickGuard = 1; // any other value hugs too, and stays
-    form.resize(before);
-    clickLabel(form.Label1, Qt::LeftButton, {5, 5});
-    QVERIFY(form.size() != before);
-    QCOMPARE(form.ClickGuard, qint16(1));
 }
 
 void TestFormComment::rightButtonShowsThePopupAtThePointer()
@@ -265,19 +256,12 @@ void TestFormComment::rightButtonShowsThePopupAtThePointer()
     CommentFixture f;
     FormComment& form = f.shownComment();
     const QSize before = form.size();
-    QSignalSpy front(&form, &FormComment::cameToFront);
-    clickLabel(form.Label1, Qt::LeftButton, {20, 10}); // the left button shows no popup
-    QVERIFY(!f.forms.existing(QStringLiteral("FormOmake")));
-    QCOMPARE(front.count(), 1);
-    form.resize(before);
-
     clickLabel(form.Label1, Qt::RightButton, {20, 10});
     FormOmake& popup = f.omake();
     QVERIFY(popup.isVisible());
     QCOMPARE(twLeft(&popup), twLeft(&form) + 300);
     QCOMPARE(twTop(&popup), twTop(&form) + 150);
     QCOMPARE(form.size(), before); // a right click doesn't hug
-    QCOMPARE(front.count(), 2);
     saveShot(&popup, QStringLiteral("FormOmake"));
 }
 

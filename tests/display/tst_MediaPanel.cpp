@@ -44,9 +44,7 @@ private Q_SLOTS:
     void displaySizeDefaultKeepsTheOwnersSize();
     void lateVideoSizeIsToldAfterSizing();
     void fullScreenFollowsThePlay();
-    void geometryInTwips();
     void midiPanelShowsTheFileName();
-    void panelWithoutEngineStaysQuiet();
 };
 
 void TestMediaPanel::operationsReachTheEngine()
@@ -153,15 +151,6 @@ void TestMediaPanel::fullScreenFollowsThePlay()
     QCOMPARE(p.engine->calls, (QStringList{"fullscreen off", "open /shows/b.avi"}));
 }
 
-void TestMediaPanel::geometryInTwips()
-{
-    Panel p(false);
-    p.panel->Move(1500, 750, 4300, 3800);
-    QCOMPARE(p.panel->geometry(), QRect(100, 50, 287, 253));
-    p.panel->setHeight(1500);
-    QCOMPARE(p.panel->size(), QSize(287, 100));
-}
-
 void TestMediaPanel::midiPanelShowsTheFileName()
 {
     FakeMedia media;
@@ -175,18 +164,6 @@ void TestMediaPanel::midiPanelShowsTheFileName()
     QVERIFY(panel.findChild<QLabel*>("Face")->text().contains(QStringLiteral("夏の歌.mid")));
     QCOMPARE(panel.videoSize(), QSize());
     saveShot(&panel, QStringLiteral("MediaPlayer2"));
-}
-
-void TestMediaPanel::panelWithoutEngineStaysQuiet()
-{
-    MediaPanel panel(QStringLiteral("MediaPlayer1"), nullptr);
-    QSignalSpy ended(&panel, &MediaPanel::ended);
-    panel.Open(QStringLiteral("/shows/a.avi"));
-    panel.Play();
-    panel.Stop();
-    panel.setFullScreen(true);
-    QVERIFY(!panel.isPlaying());
-    QCOMPARE(ended.count(), 0);
 }
 
 QTEST_MAIN(TestMediaPanel)

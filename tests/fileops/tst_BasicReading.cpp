@@ -50,10 +50,6 @@ void TestBasicReading::readText_data()
     row("LF lines", QByteArray("a\nb\n"), "a\r\nb");
     row("CR lines", QByteArray("a\rb"), "a\r\nb");
     row("one empty line stays", QByteArray("\r\n"), "\r\n");
-    row("Shift-JIS", QByteArray("\x83\x74\x83\x40\x83\x43\x83\x8B\r\n\xBA\xD2\xDD\xC4"),
-        "ファイル\r\nｺﾒﾝﾄ");
-    row("UTF-8 with mark", QByteArray("\xEF\xBB\xBF\xE3\x83\x95\r\n"), "フ");
-    row("UTF-8 without mark", QByteArray("\xE3\x83\x95\xE3\x82\xA1"), "ファ");
     row("invalid bytes", QByteArray("a\xFF\r\n\x81"), "a\uFFFD\r\n\uFFFD");
 }
 

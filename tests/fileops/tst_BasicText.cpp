@@ -14,8 +14,6 @@ private Q_SLOTS:
     void trimLineEnds_data();
     void trimLineEnds();
     void trimLineEndsChangesTheVariable();
-    void fixedText_data();
-    void fixedText();
     void pathParts_data();
     void pathParts();
     void dots_data();
@@ -24,7 +22,6 @@ private Q_SLOTS:
     void backslashes();
     void serchAndReplace_data();
     void serchAndReplace();
-    void stamp();
     void pair_data();
     void pair();
 };
@@ -56,26 +53,6 @@ void TestBasicText::trimLineEndsChangesTheVariable()
     QString path = QStringLiteral("  C:\\a.jpg\r\n");
     TrimLineEnds(path);
     QCOMPARE(path, QStringLiteral("C:\\a.jpg"));
-}
-
-void TestBasicText::fixedText_data()
-{
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char* tag, const QString& field, const QString& text) {
-        QTest::newRow(tag) << field << text;
-    };
-    row("all NUL", QString(15, QChar(0)), "");
-    row("padded", "MS UI Gothic   ", "MS UI Gothic");
-    row("NULs then blanks then text", QString(2, QChar(0)) + "  abc  " + QString(3, QChar(0)),
-        "abc");
-}
-
-void TestBasicText::fixedText()
-{
-    QFETCH(QString, field);
-    QFETCH(QString, text);
-    QCOMPARE(FixedText(field), text);
 }
 
 void TestBasicText::pathParts_data()
@@ -173,12 +150,6 @@ void TestBasicText::serchAndReplace()
     QFETCH(QString, find);
     QFETCH(QString, replacement);
     QCOMPARE(SerchAndReplace(source, find, replacement), FETCH(QString, result));
-}
-
-void TestBasicText::stamp()
-{
-    const QDateTime moment(QDate(2026, 11, 5), QTime(4, 5, 9));
-    QCOMPARE(MakeDateTimeStamp(moment), QStringLiteral("2026_11_05_04_05_09"));
 }
 
 void TestBasicText::pair_data()

@@ -36,10 +36,6 @@ private Q_SLOTS:
     void trim();
     void inStr_data();
     void inStr();
-    void inStrRev_data();
-    void inStrRev();
-    void leftRight_data();
-    void leftRight();
     void mid_data();
     void mid();
     void storeInt16_data();
@@ -206,40 +202,6 @@ void TestBasic::inStr()
     QCOMPARE(InStr(start, FETCH(QString, text), FETCH(QString, find)), expected);
     if (start == 1)
         QCOMPARE(InStr(FETCH(QString, text), FETCH(QString, find)), expected);
-}
-
-void TestBasic::inStrRev_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("find");
-    QTest::addColumn<int>("expected");
-
-    QTest::newRow("last backslash") << u"C:\\a\\b.jpg"_s << u"\\"_s << 5;
-    QTest::newRow("empty find") << u"abc"_s << QString() << 3;
-    QTest::newRow("both empty") << QString() << QString() << 0;
-}
-
-void TestBasic::inStrRev()
-{
-    QCOMPARE(InStrRev(FETCH(QString, text), FETCH(QString, find)), FETCH(int, expected));
-}
-
-void TestBasic::leftRight_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<QString>("left");
-    QTest::addColumn<QString>("right");
-
-    QTest::newRow("part") << u"abcde"_s << 2 << u"ab"_s << u"de"_s;
-    QTest::newRow("negative") << u"abc"_s << -1 << QString() << QString();
-    QTest::newRow("double-byte") << u"ファイル"_s << 2 << u"ファ"_s << u"イル"_s;
-}
-
-void TestBasic::leftRight()
-{
-    QCOMPARE(Left(FETCH(QString, text), FETCH(int, count)), FETCH(QString, left));
-    QCOMPARE(Right(FETCH(QString, text), FETCH(int, count)), FETCH(QString, right));
 }
 
 void TestBasic::mid_data()

@@ -20,7 +20,6 @@ private Q_SLOTS:
     void isFileAndLength();
     void listingsHoldTheTracks();
     void aRealFileOfATracksNameIsListedOnce();
-    void theCounterAsksTheDrivesDevice();
     void noDiscNoCounterNoTracks();
 
 private:
@@ -117,16 +116,6 @@ void TestCdTrackFiles::aRealFileOfATracksNameIsListedOnce()
     QCOMPARE(fs().listFolder(QStringLiteral("D:\\"), {QStringLiteral("*.cda")}).files, listed);
     QCOMPARE(fs().dir(QStringLiteral("D:\\Track02.cda")), QStringLiteral("track02.CDA"));
     QCOMPARE(fs().fileLength(QStringLiteral("D:\\Track02.cda")), qint64(4));
-}
-
-void TestCdTrackFiles::theCounterAsksTheDrivesDevice()
-{
-    QVERIFY(fs().isFile(QStringLiteral("D:\\Track02.cda")));
-    QCOMPARE(askedDevices_, QStringList{"/dev/sr0"});
-    askedDevices_.clear();
-    QVERIFY(!fs().isFile(QStringLiteral("E:\\Track02.cda")));
-    QVERIFY(!fs().isFile(QStringLiteral("C:\\Track02.cda")));
-    QCOMPARE(askedDevices_, QStringList());
 }
 
 void TestCdTrackFiles::noDiscNoCounterNoTracks()

@@ -44,7 +44,6 @@ private Q_SLOTS:
     void modalReturnsWhenUnloaded();
     void twipsGeometry_data();
     void twipsGeometry();
-    void coloursReadBack();
     void classicFilters_data();
     void classicFilters();
 };
@@ -120,17 +119,6 @@ void TestFormBase::twipsGeometry()
     QCOMPARE(child.geometry(), pixels);
     QCOMPARE(twLeft(&child), float(pixels.x() * 15));
     QCOMPARE(twWidth(&child), float(pixels.width() * 15));
-}
-
-void TestFormBase::coloursReadBack()
-{
-    QLabel label;
-    setBackColor(&label, kColorYellow);
-    setForeColor(&label, kColorRed);
-    QCOMPARE(backColor(&label), kColorYellow);
-    QCOMPARE(foreColor(&label), kColorRed);
-    QCOMPARE(label.palette().color(QPalette::Window), QColor(255, 255, 0));
-    QCOMPARE(label.palette().color(QPalette::WindowText), QColor(255, 0, 0));
 }
 
 void TestFormBase::classicFilters_data()

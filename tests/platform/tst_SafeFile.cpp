@@ -46,8 +46,6 @@ private Q_SLOTS:
     void failedWriteLeavesNothing();
     void interruptedWriteKeepsOldFile_data();
     void interruptedWriteKeepsOldFile();
-    void textFiles_data();
-    void textFiles();
     void readTextFile_data();
     void readTextFile();
 };
@@ -137,29 +135,6 @@ void TestSafeFile::interruptedWriteKeepsOldFile()
     // The next write goes through as usual.
     QVERIFY(writeFileSafely(target, next));
     QCOMPARE(readBytes(target), next);
-}
-
-void TestSafeFile::textFiles_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QByteArray>("bytes");
-
-    QTest::newRow("CP932") << u"ファイル\r\n"_s << QByteArray::fromHex("837483408343838B0D0A");
-    QTest::newRow("UTF-8 when CP932 can't hold it")
-        << u"한\r\n"_s << QByteArray::fromHex("EFBBBFED959C0D0A");
-    QTest::newRow("line ends as given") << u"a\nb"_s << QByteArray("a\nb");
-}
-
-void TestSafeFile::textFiles()
-{
-    QFETCH(QString, text);
-    QFETCH(QByteArray, bytes);
-    QTemporaryDir dir;
-    const QString target = dir.filePath(u"TempList.lst"_s);
-
-    QVERIFY(writeTextFileSafely(target, text));
-    QCOMPARE(readBytes(target), bytes);
-    QCOMPARE(lumen::readTextFile(target), std::optional(text));
 }
 
 void TestSafeFile::readTextFile_data()
