@@ -55,12 +55,7 @@ void TestBasic::val_data()
     QTest::newRow("carriage return ends") << "12\r3" << 12.0;
     QTest::newRow("letters end") << "  12abc" << 12.0;
     QTest::newRow("blank after sign") << "- 3" << -3.0;
-    QTest::newRow("negative without zero") << "-.5" << -0.5;
-    QTest::newRow("second point ends") << "1.2.3" << 1.2;
     QTest::newRow("exponent D") << "2D3" << 2000.0;
-    QTest::newRow("negative exponent") << "25E-2" << 0.25;
-    QTest::newRow("E sign without digits") << "7E+x" << 7.0;
-    QTest::newRow("empty") << "" << 0.0;
     QTest::newRow("full-width digits") << u"１２３"_s << 0.0;
     QTest::newRow("hex 16 bit all ones") << "&HFFFF" << -1.0;
     QTest::newRow("hex 16 bit sign") << "&H8000" << -32768.0;
@@ -70,7 +65,6 @@ void TestBasic::val_data()
     QTest::newRow("hex 32 bit all ones") << "&HFFFFFFFF&" << -1.0;
     QTest::newRow("hex with blanks") << " &H F F" << 255.0;
     QTest::newRow("hex stops at non-digit") << "&H1G" << 1.0;
-    QTest::newRow("hex without digits") << "&HG" << 0.0;
     QTest::newRow("hex past 32 bits") << "&H1FFFFFFFF" << 0.0;
     QTest::newRow("octal 16 bit") << "&O177777" << -1.0;
     QTest::newRow("overflow") << "-1E400" << -std::numeric_limits<double>::infinity();
@@ -87,12 +81,9 @@ void TestBasic::str_data()
     QTest::addColumn<QString>("expected");
 
     QTest::newRow("negative zero") << -0.0 << " 0";
-    QTest::newRow("negative half") << -0.5 << "-.5";
     QTest::newRow("sum rounded to 15 digits") << 0.1 + 0.2 << " .3";
     QTest::newRow("a third") << 1.0 / 3 << " .333333333333333";
-    QTest::newRow("15 digits") << 123456789012345.0 << " 123456789012345";
     QTest::newRow("16 digits") << 1e16 << " 1E+16";
-    QTest::newRow("small") << 1e-7 << " 1E-07";
 }
 
 void TestBasic::str()
@@ -114,12 +105,9 @@ void TestBasic::format_data()
     row("half as decimal text", 1.0005, "0.000", "1.001");
     row("carry into whole part", 9.9996, "0.000", "10.000");
     row("negative half away from zero", -2.5, "0", "-3");
-    row("negative rounding to zero", -0.004, "0.00", "-0.00");
-    row("no whole digit with #", 0.5, "#.00", ".50");
     row("point kept without decimals", 1.0, "0.##", "1.");
     row("literal suffix", 1.5, "##0.000MB", "1.500MB");
     row("first point is the decimal point", 5.0, "No.000", "No5.000");
-    row("large value", 1e20, "0", "100000000000000000000");
 }
 
 void TestBasic::format()
@@ -164,7 +152,6 @@ void TestBasic::trim_data()
         QTest::newRow(name) << text << trimmed << left << right;
     };
     row("blanks", u"  a b  "_s, u"a b"_s, u"a b  "_s, u"  a b"_s);
-    row("only blanks", u"   "_s, {}, {}, {});
     row("blank before tab", u" \t a "_s, u"\t a"_s, u"\t a "_s, u" \t a"_s);
     row("ideographic space kept", u" 　a　 "_s, u"　a　"_s, u"　a　 "_s, u" 　a　"_s);
 }
@@ -187,11 +174,8 @@ void TestBasic::inStr_data()
                         int expected) { QTest::newRow(name) << start << text << find << expected; };
     row("first", 1, u"abcabc"_s, u"c"_s, 3);
     row("start past end", 7, u"abcabc"_s, u"c"_s, 0);
-    row("case matters", 1, u"abc"_s, u"B"_s, 0);
     row("empty find", 1, u"abc"_s, {}, 1);
     row("empty find beyond", 5, u"abc"_s, {}, 0);
-    row("both empty", 1, {}, {}, 0);
-    row("start below 1", 0, u"abc"_s, u"a"_s, 0);
     row("full-width", 1, u"ファイル．ｊｐｇ"_s, u"．"_s, 5);
 }
 
@@ -211,7 +195,6 @@ void TestBasic::mid_data()
     QTest::addColumn<int>("count");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("middle") << "abcdef" << 2 << 3 << "bcd";
     QTest::newRow("count past end") << "abc" << 2 << 10 << "bc";
     QTest::newRow("start just past end") << "abc" << 4 << -1 << "";
     QTest::newRow("start below 1") << "abc" << 0 << 1 << "";
@@ -232,13 +215,9 @@ void TestBasic::storeInt16_data()
     QTest::addColumn<int>("expected"); // the target afterwards; it starts at 77
 
     QTest::newRow("2.5 to even 2") << 2.5 << true << 2;
-    QTest::newRow("3.5 to even 4") << 3.5 << true << 4;
-    QTest::newRow("-2.5 to even -2") << -2.5 << true << -2;
-    QTest::newRow("largest") << 32767.0 << true << 32767;
     QTest::newRow("rounds up past largest") << 32767.5 << false << 77;
     QTest::newRow("one past largest") << 32768.0 << false << 77;
     QTest::newRow("rounds to even smallest") << -32768.5 << true << -32768;
-    QTest::newRow("one past smallest") << -32769.0 << false << 77;
     QTest::newRow("not a number") << kNaN << false << 77;
 }
 
@@ -255,7 +234,6 @@ void TestBasic::storeInt32_data()
     QTest::addColumn<bool>("stored");
     QTest::addColumn<qint64>("expected"); // the target afterwards; it starts at 77
 
-    QTest::newRow("beyond 16 bits") << 40000.0 << true << qint64(40000);
     QTest::newRow("rounds up past largest") << 2147483647.5 << false << qint64(77);
     QTest::newRow("rounds to even smallest") << -2147483648.5 << true << qint64(-2147483648LL);
     QTest::newRow("infinity") << Val("1E400") << false << qint64(77);
@@ -273,9 +251,7 @@ void TestBasic::clampInt16_data()
     QTest::addColumn<double>("value");
     QTest::addColumn<int>("expected");
 
-    QTest::newRow("half to even") << 2.5 << 2;
     QTest::newRow("wide screen") << 57600.0 << 32767;
-    QTest::newRow("far left") << -40000.0 << -32768;
     QTest::newRow("not a number") << kNaN << 0;
 }
 

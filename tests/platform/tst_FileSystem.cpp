@@ -88,21 +88,15 @@ void TestFileSystem::toNative_data()
         QTest::newRow(name) << entries << QString::fromUtf8(program) << QString::fromUtf8(native);
     };
     row("capitals find small letters", {"pics/a.jpg"}, "C:\\PICS\\A.JPG", "~/pics/a.jpg");
-    row("small letters find capitals", {"Lumentas/Out/"}, "c:\\lumentas\\out\\a.jpg",
-        "~/Lumentas/Out/a.jpg");
     row("exact name first", {"A.JPG", "a.jpg"}, "C:\\a.jpg", "~/a.jpg");
     row("first in byte order", {"a.JPG", "A.jpg"}, "C:\\A.JPG", "~/A.jpg");
     row("new parts keep their case", {"pics/"}, "c:\\PICS\\New\\B.JPG", "~/pics/New/B.JPG");
     row("below a missing part", {"x/a.jpg"}, "C:\\y\\X\\A.JPG", "~/y/X/A.JPG");
-    row("full-width letters", {"ａ.jpg"}, "C:\\Ａ.JPG", "~/ａ.jpg");
     row("slash as backslash", {"pics/a.jpg"}, "C:/pics/a.jpg", "~/pics/a.jpg");
     row("trailing blank", {"MPLAYER2.EXE"}, "C:\\MPLAYER2.EXE ", "~/MPLAYER2.EXE");
-    row("trailing dots and blanks of a folder", {"pics/a.jpg"}, "C:\\pics. .\\a.jpg",
-        "~/pics/a.jpg");
     row("dots, stopping at the drive root", {"pics/a.jpg"}, "C:\\..\\pics\\.\\x\\..\\a.jpg",
         "~/pics/a.jpg");
     row("root of the current drive", {"a.jpg"}, "\\a.jpg", "~/a.jpg");
-    row("drive without backslash", {"a.jpg"}, "C:a.jpg", "~/a.jpg");
     row("address", {}, "http://example.com/a.jpg", "");
 }
 
@@ -148,20 +142,16 @@ void TestFileSystem::dir_data()
         QTest::newRow(name) << entries << QString(path) << QString(found);
     };
     row("name as on disk", {"pics/a.jpg"}, "C:\\PICS\\A.JPG", "a.jpg");
-    row("trailing blank", {"MPLAYER2.EXE"}, "C:\\MPLAYER2.EXE ", "MPLAYER2.EXE");
     row("dot name hidden", {".x.jpg"}, "C:\\.x.jpg", "");
-    row("dot name not matched", {".x.jpg"}, "C:\\*.jpg", "");
     row("folder name", {"pics/a.jpg"}, "C:\\pics", "");
     row("first in order", {"b.jpg", "A.jpg", "c.jpg"}, "C:\\*.jpg", "A.jpg");
     row("question mark is one character", {"aaa.jpg", "ab.jpg"}, "C:\\a?.JPG", "ab.jpg");
     row("literal name before wildcard", {"a!.jpg", "a*.jpg"}, "C:\\a*.jpg", "a*.jpg");
     row("no character classes", {"[a]x.jpg"}, "C:\\[a]*.jpg", "[a]x.jpg");
-    row("pattern ignores case", {"a.bmp"}, "C:\\*.BMP", "a.bmp");
     row("star dot star without dot", {"README"}, "C:\\*.*", "README");
     row("trailing backslash lists", {"pics/b.jpg"}, "C:\\pics\\", "b.jpg");
     row("backslash in a name", {"a\\b.jpg"}, "C:\\*.jpg", "");
     row("unknown drive", {}, "Q:\\a.jpg", "");
-    row("address", {"a.jpg"}, "http://x/a.jpg", "");
 }
 
 void TestFileSystem::dir()
@@ -178,13 +168,11 @@ void TestFileSystem::queries_data()
     QTest::addColumn<bool>("isLink");
     QTest::addColumn<qint64>("length");
 
-    QTest::newRow("file") << "C:\\PICS\\A.JPG" << true << false << false << qint64(10);
     QTest::newRow("dot file") << "C:\\.x.jpg" << false << false << false << qint64(6);
     QTest::newRow("folder") << "C:\\pics" << false << true << false << qint64(-1);
     QTest::newRow("linked folder") << "C:\\linked" << false << true << true << qint64(-1);
     QTest::newRow("linked file") << "C:\\b.jpg" << true << false << true << qint64(10);
     QTest::newRow("broken link") << "C:\\gone.jpg" << false << false << true << qint64(-1);
-    QTest::newRow("missing") << "C:\\none.jpg" << false << false << false << qint64(-1);
 }
 
 void TestFileSystem::queries()
@@ -312,7 +300,6 @@ void TestFileSystem::deleteFile_data()
     QTest::newRow("link to a file") << "C:\\link.jpg" << true << "link.jpg";
     QTest::newRow("link to a folder") << "C:\\linked" << true << "linked";
     QTest::newRow("folder") << "C:\\pics" << false << "";
-    QTest::newRow("missing") << "C:\\none" << false << "";
 }
 
 void TestFileSystem::deleteFile()
@@ -340,13 +327,11 @@ void TestFileSystem::deleteTree_data()
     using R = TreeDeleteResult;
     QTest::newRow("site ignoring case") << "c:\\SITE\\" << R::Deleted << "Site";
     QTest::newRow("link to a folder goes itself") << "C:\\SiteLink" << R::Deleted << "SiteLink";
-    QTest::newRow("home") << "C:\\" << R::Refused << "";
     QTest::newRow("data folder") << "C:\\LUMENTAS" << R::Refused << "";
     QTest::newRow("ancestor of a protected folder") << "C:\\Deep" << R::Refused << "";
     QTest::newRow("protected folder through a link") << "C:\\Up\\Lumentas" << R::Refused << "";
     QTest::newRow("root of a Drives.txt drive through C:") << "C:\\Usb" << R::Refused << "";
     QTest::newRow("mount point") << "Z:\\proc" << R::Refused << "";
-    QTest::newRow("a file") << "C:\\Site\\a.jpg" << R::Missing << "";
 }
 
 void TestFileSystem::deleteTree()

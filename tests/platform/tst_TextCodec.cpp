@@ -46,16 +46,12 @@ void TestTextCodec::decodeBytes_data()
     const QChar bad = QChar::ReplacementCharacter;
     QTest::newRow("CP932 katakana") << hex("83 74 83 40 83 43 83 8B") << u"ファイル"_s;
     QTest::newRow("CP932 trail byte 5C") << hex("95 5C 2E 6A 70 67") << u"表.jpg"_s;
-    QTest::newRow("UTF-8 with BOM")
-        << kBom + hex("E3 83 95 E3 82 A1 E3 82 A4 E3 83 AB") << u"ファイル"_s;
     QTest::newRow("UTF-8 without BOM")
         << hex("E3 83 95 E3 82 A1 E3 82 A4 E3 83 AB") << u"ファイル"_s;
     QTest::newRow("UTF-8 outside CP932") << hex("ED 95 9C F0 9F 98 80") << u"한😀"_s;
-    QTest::newRow("BOM alone") << kBom << QString();
     QTest::newRow("BOM before ASCII") << kBom + "a\r\n" << u"a\r\n"_s;
     QTest::newRow("lone lead byte at the end") << hex("41 81") << u"A"_s + bad;
     QTest::newRow("lead byte with bad trail") << hex("81 20 41") << bad + u" A"_s;
-    QTest::newRow("FD FE FF") << hex("FD FE FF") << QString(3, bad);
     QTest::newRow("bad byte between characters")
         << hex("83 74 FF 83 40 A0 83 43") << u"フ"_s + bad + u"ァ"_s + bad + u"イ"_s;
 }
@@ -97,10 +93,8 @@ void TestTextCodec::encodeCp932_data()
     const std::optional<QByteArray> none;
     QTest::newRow("ASCII with backslash")
         << u"C:\\a.jpg"_s << std::optional(hex("43 3A 5C 61 2E 6A 70 67"));
-    QTest::newRow("katakana") << u"ファイル"_s << std::optional(hex("83 74 83 40 83 43 83 8B"));
     QTest::newRow("Hangul") << u"한"_s << none;
     QTest::newRow("yen sign maps one way") << u"¥100"_s << none;
-    QTest::newRow("minus sign maps one way") << u"\u2212"_s << none;
     QTest::newRow("wave dash maps one way") << u"\u301C"_s << none;
     QTest::newRow("lone surrogate") << QString(QChar(0xD800)) << none;
 }
@@ -145,19 +139,14 @@ void TestTextCodec::encodeField_data()
     QTest::addColumn<int>("width");
     QTest::addColumn<QByteArray>("expected");
 
-    QTest::newRow("CP932 exact") << u"ファイル"_s << 8 << hex("83 74 83 40 83 43 83 8B");
-    QTest::newRow("CP932 not padded") << u"ab"_s << 5 << QByteArray("ab");
     QTest::newRow("CP932 cut inside a character") << u"ファイル"_s << 7 << hex("83 74 83 40 83 43");
     QTest::newRow("CP932 cut after ASCII") << u"aファ"_s << 2 << hex("61");
     QTest::newRow("CP932 first character too wide") << u"ファイル"_s << 1 << QByteArray();
     QTest::newRow("CP932 trail byte 5C") << u"表a"_s << 2 << hex("95 5C");
     QTest::newRow("UTF-8 cut inside a character") << u"aファ한"_s << 5 << hex("61 E3 83 95");
     QTest::newRow("UTF-8 first character too wide") << u"한a"_s << 2 << QByteArray();
-    QTest::newRow("UTF-8 four-byte cut") << u"😀b"_s << 3 << QByteArray();
     QTest::newRow("kana that look like UTF-8")
         << u"ﾃｽ.jpg"_s << 20 << hex("EF BE 83 EF BD BD 2E 6A 70 67");
-    QTest::newRow("font name") << u"IPAPGothic Bold Italic"_s << 15
-                               << QByteArray("IPAPGothic Bold");
 }
 
 void TestTextCodec::encodeField()
@@ -175,10 +164,7 @@ void TestTextCodec::splitLines_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QStringList>("expected");
 
-    QTest::newRow("empty") << QString() << QStringList();
-    QTest::newRow("CR LF") << u"a\r\nb"_s << QStringList{u"a"_s, u"b"_s};
     QTest::newRow("mixed") << u"a\r\nb\nc\rd"_s << QStringList{u"a"_s, u"b"_s, u"c"_s, u"d"_s};
-    QTest::newRow("final break") << u"a\r\n"_s << QStringList{u"a"_s};
     QTest::newRow("empty last line") << u"a\r\n\r\n"_s << QStringList{u"a"_s, QString()};
     QTest::newRow("LF then CR is two breaks") << u"\n\r"_s << QStringList{QString(), QString()};
     QTest::newRow("CR before CR LF") << u"a\r\r\nb"_s << QStringList{u"a"_s, QString(), u"b"_s};
