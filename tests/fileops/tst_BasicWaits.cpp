@@ -104,7 +104,6 @@ void TestBasicWaits::padToWidth_data()
     QTest::addColumn<int>("width");
     QTest::addColumn<QString>("result");
     QTest::addColumn<bool>("box");
-    QTest::newRow("padded") << "ab" << 5 << "ab   " << false;
     QTest::newRow("exact") << "abcde" << 5 << "abcde" << false;
     QTest::newRow("too long") << "abcdef" << 5 << "" << true;
 }

@@ -33,7 +33,6 @@ void TestDriveMarks::resolve_data()
         QTest::newRow(tag) << line << programFolder << forcedFrom << forcedTo << answer << result
                            << pairAfter << asked;
     };
-    row("no mark", "C:\\a.jpg", "Z:\\usr\\bin", "", "", "", "C:\\a.jpg", "|", 0);
     row("mark before an address", "*:http://example.invalid/a\\\\b.html", "Z:\\usr\\bin", "", "",
         "", "http://example.invalid/a\\b.html", "|", 0);
     row("program drive", "*:\\pics\\a.jpg @WITH=*:\\snd\\b.wav ENDWITH", "Z:\\usr\\bin", "", "", "",
@@ -42,7 +41,6 @@ void TestDriveMarks::resolve_data()
         "d:", "D:\\pics\\a.jpg @WITH=D:\\snd\\b.wav ENDWITH", "?:|D:", 1);
     row("doubled backslash collapsed", "?:\\\\pics\\a.jpg", "", "?:", "E:", "", "E:\\pics\\a.jpg",
         "?:|E:", 0);
-    row("list folder", "%:\\pics\\a.jpg", "", "", "", "", "C:\\shows\\a.jpg", "%:|", 0);
     row("list folder twice, bare name", "%:a.jpg @WITH=%:\\x\\b.wav ENDWITH", "", "", "", "",
         "C:\\shows\\a.jpg @WITH=C:\\shows\\b.wav ENDWITH", "%:|", 0);
     row("a later line without mark", "C:\\a.jpg", "", "?:", "D:", "", "C:\\a.jpg", "?:|D:", 0);
