@@ -56,11 +56,7 @@ void TestListGrammar::parse_data()
         QStringList{"a.jpg", "", "9999", "", ""}, " There is no word ENDWITH");
     row("missing end word drops the rest", "a.jpg @DELAY=4 @WITH=b.wav ENDWITH", true,
         QStringList{"a.jpg", "", "9999", "", ""}, " There is no word ENDDELAY");
-    row("items before the missing one stay", "a.jpg @WITH=b.wav ENDWITH @OPTION=X", true,
-        QStringList{"a.jpg", "b.wav", "9999", "", ""}, " There is no word ENDOPTION");
     row("no @: the whole line", "a.jpg = b", true, QStringList{"a.jpg = b", "", "9999", "", ""},
-        "");
-    row("empty main file", "@WITH=b.wav ENDWITH", true, QStringList{"", "b.wav", "9999", "", ""},
         "");
     row("blank between @ and word: passed over", "a.jpg @ WITH=b.wav ENDWITH", true,
         QStringList{"a.jpg", "", "9999", "", ""}, "");
@@ -95,7 +91,6 @@ void TestListGrammar::lineKinds_data()
     QTest::addColumn<QString>("line");
     QTest::addColumn<int>("kind");
     QTest::newRow("comment") << "' note" << int(LineKind::Comment);
-    QTest::newRow("indented comment") << "   ' note" << int(LineKind::Comment);
     QTest::newRow("20 blanks, then a name") << QString(20, ' ') + "a.jpg" << int(LineKind::Command);
     QTest::newRow("21 blanks, then a name")
         << QString(21, ' ') + "a.jpg" << int(LineKind::TooIndented);

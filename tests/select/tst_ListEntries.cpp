@@ -60,16 +60,10 @@ void TestListEntries::lines_data()
         << QStringList{QStringLiteral("C:\\写真\\a.jpg"), QStringLiteral("C:\\写真\\b.jpg")};
     QTest::newRow("list whose first line has no ':': the file itself")
         << "C:\\shows\\words.lst" << false << QStringList{"C:\\shows\\words.lst"};
-    QTest::newRow("list whose first line has no '.': the file itself")
-        << "C:\\shows\\nodot.lst" << false << QStringList{"C:\\shows\\nodot.lst"};
     QTest::newRow("empty list: the file itself")
         << "C:\\shows\\empty.lst" << false << QStringList{"C:\\shows\\empty.lst"};
-    QTest::newRow("missing list: the name itself")
-        << "C:\\shows\\gone.lst" << false << QStringList{"C:\\shows\\gone.lst"};
     QTest::newRow("missing file: the name itself")
         << "C:\\none.jpg" << false << QStringList{"C:\\none.jpg"};
-    QTest::newRow("folder named like a list: its tree")
-        << "C:\\folder.lst" << false << QStringList{"C:\\folder.lst\\in.jpg"};
     QTest::newRow("folder with a dot: its tree")
         << "C:\\pics.v2" << false << QStringList{"C:\\pics.v2\\p.jpg"};
 
