@@ -114,8 +114,6 @@ void TestFormComment::loadAppliesTheCommentFields_data()
                         double points, int back, int fore) {
         QTest::newRow(name) << fields << QString(family) << points << back << fore;
     };
-    row("decimal colours, other font and size", {"IPAGothic", "14", "255", "65280"}, "IPAGothic",
-        14, 255, 65280);
     row("padded fields are trimmed", {"  IPAGothic  ", " 12 ", " &H808080 ", " &HFF "}, "IPAGothic",
         12, 0x808080, 255);
     row("an empty font name leaves the design font", {"", "11", "0", "16777215"}, "MS UI Gothic",

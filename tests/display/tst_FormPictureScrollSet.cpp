@@ -26,7 +26,6 @@ class TestFormPictureScrollSet : public QObject {
 private Q_SLOTS:
     void loadShowsTheAllowance_data();
     void loadShowsTheAllowance();
-    void theScaleMovesTheValue();
     void commandWordSet_data();
     void commandWordSet();
     void commandEndUnloads();
@@ -38,7 +37,6 @@ void TestFormPictureScrollSet::loadShowsTheAllowance_data()
     QTest::addColumn<int>("value");
     QTest::addColumn<QString>("shown");
     QTest::newRow("some") << 35 << 35 << "35";
-    QTest::newRow("right end") << 100 << 100 << "100";
     // The bar stands at 0 already: no change, and the label keeps its caption.
     QTest::newRow("0 is no change") << 0 << 0 << "20";
     QTest::newRow("off the scale is refused") << 150 << 0 << "20";
@@ -63,22 +61,6 @@ void TestFormPictureScrollSet::loadShowsTheAllowance()
     QCOMPARE(f.state.PictureSizeAllowVal, FETCH(int, allowance)); // loading changes nothing
     if (QByteArray(QTest::currentDataTag()) == "some")
         saveShot(&form, QStringLiteral("FormPictureScrollSet"));
-}
-
-void TestFormPictureScrollSet::theScaleMovesTheValue()
-{
-    BasicsFixture f;
-    f.state.PictureSizeAllowVal = 35;
-    FormPictureScrollSet form(f.basics);
-    form.showForm();
-    QScrollBar* bar = form.HScroll1;
-    bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
-    QCOMPARE(form.LabelVal->text(), QStringLiteral("40"));
-    bar->triggerAction(QAbstractSlider::SliderPageStepSub);
-    QCOMPARE(form.LabelVal->text(), QStringLiteral("20"));
-    bar->triggerAction(QAbstractSlider::SliderToMaximum);
-    QCOMPARE(form.LabelVal->text(), QStringLiteral("100"));
-    QCOMPARE(f.state.PictureSizeAllowVal, 35); // only the set button stores it
 }
 
 void TestFormPictureScrollSet::commandWordSet_data()

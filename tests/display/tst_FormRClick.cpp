@@ -123,7 +123,6 @@ void TestFormRClick::smallAndBigSizeTheMainWindow_data()
     QTest::addColumn<QSize>("before"); // the window with its frame, pixels
     QTest::addColumn<QSize>("after");  // 100 pixels to a step of 1500 twips
     QTest::newRow("smaller") << "CommandSmall" << QSize(500, 400) << QSize(400, 300);
-    QTest::newRow("not below the smallest") << "CommandSmall" << QSize(250, 160) << QSize(200, 150);
     QTest::newRow("not beyond the screen") << "CommandBig" << screen - QSize(30, 60) << screen;
 }
 
@@ -221,7 +220,6 @@ void TestFormRClick::pictureActionsOfTheMainWindow_data()
     QTest::newRow("Auto") << "CommandShowAutoRun" << QStringList{"auto"};
     QTest::newRow("recover") << "CommandRecover" << QStringList{"recover"};
     QTest::newRow("delete") << "CommandDeleat" << QStringList{"delete"};
-    QTest::newRow("close") << "CommandClose" << QStringList{};
 }
 
 void TestFormRClick::pictureActionsOfTheMainWindow()

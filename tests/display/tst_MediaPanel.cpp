@@ -44,7 +44,6 @@ private Q_SLOTS:
     void displaySizeDefaultKeepsTheOwnersSize();
     void lateVideoSizeIsToldAfterSizing();
     void fullScreenFollowsThePlay();
-    void midiPanelShowsTheFileName();
 };
 
 void TestMediaPanel::operationsReachTheEngine()
@@ -149,21 +148,6 @@ void TestMediaPanel::fullScreenFollowsThePlay()
     p.panel->setFullScreen(false);
     p.panel->Open(QStringLiteral("/shows/b.avi"));
     QCOMPARE(p.engine->calls, (QStringList{"fullscreen off", "open /shows/b.avi"}));
-}
-
-void TestMediaPanel::midiPanelShowsTheFileName()
-{
-    FakeMedia media;
-    QWidget window;
-    window.resize(600, 400);
-    MediaPanel panel(QStringLiteral("MediaPlayer2"), media.createEngine(false), &window);
-    panel.Move(300, 300, 4300, 3800);
-    window.show();
-    panel.Open(QStringLiteral("/home/u/曲/夏の歌.mid"));
-    QCOMPARE(panel.findChild<QLabel*>("FileNameLabel")->toolTip(), QStringLiteral("夏の歌.mid"));
-    QVERIFY(panel.findChild<QLabel*>("Face")->text().contains(QStringLiteral("夏の歌.mid")));
-    QCOMPARE(panel.videoSize(), QSize());
-    saveShot(&panel, QStringLiteral("MediaPlayer2"));
 }
 
 QTEST_MAIN(TestMediaPanel)

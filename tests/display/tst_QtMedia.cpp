@@ -38,7 +38,6 @@ private Q_SLOTS:
     void stoppingGivesNoEnd();
     void videoTellsItsSize();
     void secondSoundCutsTheFirst();
-    void sameSoundStartsAgain();
     void emptyNameStopsTheSound();
     void soundThatCantPlayBeepsOnce_data();
     void soundThatCantPlayBeepsOnce();
@@ -109,7 +108,6 @@ void TestQtMedia::engineEndsAtOnceOnFailure_data()
     QTest::newRow("text named MID") << "text.mid" << false;
     QTest::newRow("empty MP3") << "empty.mp3" << false;
     QTest::newRow("missing file") << "nothing.mid" << false;
-    QTest::newRow("no name") << "" << true;
 }
 
 void TestQtMedia::engineEndsAtOnceOnFailure()
@@ -209,21 +207,6 @@ void TestQtMedia::secondSoundCutsTheFirst()
     QTRY_VERIFY_WITH_TIMEOUT(!media.isSoundPlaying(), kEndTimeout);
     QVERIFY2(timer.elapsed() < 4500, qPrintable(QString::number(timer.elapsed())));
     QCOMPARE(beeps, 0);
-}
-
-void TestQtMedia::sameSoundStartsAgain()
-{
-    QtMedia media([] {});
-    const QString tone = dir_.filePath(QStringLiteral("tone1500.wav"));
-    media.playSound(tone);
-    QTRY_VERIFY(media.isSoundPlaying());
-    QTest::qWait(1000);
-    media.playSound(tone);
-    QTRY_VERIFY(media.isSoundPlaying());
-    // Past the end of the first start, the second still plays.
-    QTest::qWait(1000);
-    QVERIFY(media.isSoundPlaying());
-    QTRY_VERIFY_WITH_TIMEOUT(!media.isSoundPlaying(), kEndTimeout);
 }
 
 void TestQtMedia::emptyNameStopsTheSound()

@@ -32,7 +32,6 @@ class TestQtWebSurface : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase();
-    void noViewBeforeTheFirstPage();
     void localPagesLoadAndKeepHistory();
     void pagesWithoutPlugInShowBlank_data();
     void pagesWithoutPlugInShowBlank();
@@ -83,17 +82,6 @@ void TestQtWebSurface::initTestCase()
     write(QStringLiteral("movie.swf"), QByteArray("FWS\x06\x20\0\0\0", 8) + QByteArray(24, '\0'));
     write(QStringLiteral("world.xv3"), "xv3 data");
     write(QStringLiteral("archive.bin"), QByteArray(2048, '\x01'));
-}
-
-void TestQtWebSurface::noViewBeforeTheFirstPage()
-{
-    QtWebSurface surface;
-    QVERIFY(surface.widget());
-    surface.navigateAway();
-    QVERIFY(!surface.hasView());
-    QVERIFY(!surface.widget()->findChild<QWebEngineView*>());
-    surface.navigate(fileUrl(dir_, QStringLiteral("first.html")));
-    QVERIFY(surface.hasView());
 }
 
 void TestQtWebSurface::localPagesLoadAndKeepHistory()
