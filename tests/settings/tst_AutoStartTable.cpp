@@ -81,8 +81,6 @@ void TestAutoStartTable::readsForcingLines_data()
     QTest::addColumn<QStringList>("rows");
     QTest::addColumn<QStringList>("messages");
 
-    QTest::newRow("default file") << defaultSendToListLines().join("\r\n") + "\r\n"
-                                  << QStringList{"SHOW_NON|.BAT"} << QStringList{};
     QTest::newRow("comments, empty lines and send-to lines are passed over")
         << "'X,AUTO_START,.JPG\r\n\r\n      \r\n   'C:\\a, AUTO_START,.BMP\r\nC:\\Tools\\paint\r\n"
            "SHOW_TEXT,AUTO_START,.LOG\r\n"
@@ -169,9 +167,6 @@ void TestAutoStartTable::routesAFileName_data()
     row("a word matching a folder name", "SHOW_NON,AUTO_START,PRIVATE", "C:\\Private\\a.jpg",
         "SHOW_NON");
     row(".JPG is not in a folder named jpgs", "SHOW_NON,AUTO_START,.JPG", "C:\\jpgs\\a.png", "");
-    row("a program path as the name", "C:\\Tools\\viewer, AUTO_START,.PNG", "c:\\b.png",
-        "C:\\Tools\\viewer");
-    row("empty words match nothing", "X,AUTO_START,,.ZIP,", "C:\\a.jpg", "");
     row("a word behind an empty one", "X,AUTO_START,,.ZIP", "C:\\a.zip", "X");
     row("an empty name ends the table", ",AUTO_START,.BMP\r\nSHOW_PICTURE,AUTO_START,.TXT",
         "C:\\a.txt", "");

@@ -83,7 +83,6 @@ private Q_SLOTS:
     void commandDoWritesTheFile();
     void savedTextRoutesTheNextPage();
     void commandResetLetsTheDefaultComeBack();
-    void boxesTakeTheRecordLook();
 };
 
 void TestFormSendApliSet::controls()
@@ -237,26 +236,6 @@ void TestFormSendApliSet::commandResetLetsTheDefaultComeBack()
 
     sendTo.showForm();
     QCOMPARE(w.f.home.readFile(kSendToList), defaultBytes());
-}
-
-void TestFormSendApliSet::boxesTakeTheRecordLook()
-{
-    Window w;
-    DirecDataRecord& record = w.f.state.DirecData;
-    record.DispFontName = QStringLiteral("MS UI Gothic");
-    record.DispFontSize = QStringLiteral("12");
-    record.DispFontColor = QStringLiteral("&HF4C657");
-    record.DispBackColor = QStringLiteral("255");
-    w.form.showForm();
-    for (const char* name : {"Drive1", "Dir1", "File1", "TextDirectry", "Text1"}) {
-        const QWidget* box = w.form.findChild<QWidget*>(name);
-        QVERIFY2(box, name);
-        QCOMPARE(backColor(box), 0xF4C657);
-        QCOMPARE(foreColor(box), kColorRed);
-        QCOMPARE(box->font().pointSizeF(), 12.0);
-    }
-    QCOMPARE(backColor(w.button("CommandDo")), -1);
-    saveShot(&w.form, QStringLiteral("FormSendApliSet_default"));
 }
 
 QTEST_MAIN(TestFormSendApliSet)

@@ -62,7 +62,6 @@ private Q_SLOTS:
     void loadingAgainReadsTheFileAgain();
     void commandDoHandsTheCommandLine_data();
     void commandDoHandsTheCommandLine();
-    void commandSettingOpensTheSettings();
 };
 
 void TestFormSendTo::controls()
@@ -174,15 +173,6 @@ void TestFormSendTo::commandDoHandsTheCommandLine()
     QVERIFY(w.f.launcher.opened.isEmpty());
     if (chosen == 1)
         saveShot(&w.form, QStringLiteral("FormSendTo_chosen"));
-}
-
-void TestFormSendTo::commandSettingOpensTheSettings()
-{
-    Window w;
-    w.form.showForm();
-    QTest::mouseClick(w.button("CommandSetting"), Qt::LeftButton);
-    QCOMPARE(w.settingsShown, 1);
-    QVERIFY(w.f.launcher.commandLines.isEmpty());
 }
 
 QTEST_MAIN(TestFormSendTo)
