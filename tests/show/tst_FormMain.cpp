@@ -52,7 +52,6 @@ private Q_SLOTS:
     void openFileListButton_data();
     void openFileListButton();
     void closingSavesTheRecord();
-    void closingInWholeScreenIsRefused();
     void autoStartOfAPicture();
     void damagedRecordLoads();
 };
@@ -208,31 +207,6 @@ void TestFormMain::closingSavesTheRecord()
         readDirecData(f.home.native("Lumentas/ForProgramRun_KDR/DirecData.ran"));
     QCOMPARE(saved.OriginalSizeOn, kTrue);
     QCOMPARE(saved.CyberViewOn, kFalse);
-}
-
-void TestFormMain::closingInWholeScreenIsRefused()
-{
-    ListFixture f;
-    FormLumentaExit* exit = nullptr;
-    f.forms.add(QStringLiteral("FormLumentaExit"), [&]() -> FormBase* {
-        exit = new FormLumentaExit(f.basics, f.main);
-        return exit;
-    });
-    int ended = 0;
-    f.main.links.endProgram = [&] { ++ended; };
-    f.main.showForm();
-    f.find<QGroupBox>("Frame1")->hide(); // whole-screen mode: the frames are down
-    bool exitShown = false;
-    QTimer::singleShot(0, &f.main, [&] {
-        exitShown = exit && exit->isVisible();
-        if (exit)
-            exit->unload();
-    });
-    QVERIFY(!f.main.close());
-    QVERIFY(exitShown);
-    QCOMPARE(f.ui.beeps, 1);
-    QCOMPARE(ended, 0);
-    QVERIFY(f.main.isVisible());
 }
 
 void TestFormMain::autoStartOfAPicture()

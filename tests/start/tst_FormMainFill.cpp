@@ -163,8 +163,6 @@ void TestFormMainFill::setStoredByTheWindowIsLoadedByTheOption_data()
     QTest::addColumn<QByteArray>("file");
     QTest::newRow("comment") << "COMMENT"
                              << "COMMENTSET4" << QByteArray("MS UI Gothic,9,&H00336699&,0\r\n");
-    QTest::newRow("text") << "TEXT"
-                          << "TEXTSET1" << QByteArray("MS UI Gothic,9,&H00336699&,&HC0C0C0\r\n");
     QTest::newRow("picture ground") << "PICTBACKCOL"
                                     << "PICTBACKCOL5" << QByteArray("Non,Non,&H00336699&,Non \r\n");
 }

@@ -22,7 +22,6 @@ private Q_SLOTS:
     void normalStartWritesItsDefaults();
     void existingSettingsAreRead();
     void startWithAListOnTheCommandLine();
-    void commandLineNamingTheWorkingListEnds();
     void closingEndsInTheFixedOrder();
 };
 
@@ -90,17 +89,6 @@ void TestFormMainStart::startWithAListOnTheCommandLine()
     QVERIFY(a.app->state().ListReady);
     QCOMPARE(a.home.readFile("Lumentas/TempList.lst"),
              QByteArray("C:\\my pics\\a.jpg\r\nC:\\my pics\\b.jpg\r\n"));
-}
-
-void TestFormMainStart::commandLineNamingTheWorkingListEnds()
-{
-    App a({QStringLiteral("Lumentas/TempList.lst")});
-    a.app->Main();
-    QCOMPARE(a.ui.boxes.size(), 1);
-    QVERIFY(a.ui.boxes.first().endsWith(
-        "This file name is ocupied by this program. Please select other files"));
-    QVERIFY(a.app->ended());
-    QTRY_COMPARE(a.quits, 1);
 }
 
 void TestFormMainStart::closingEndsInTheFixedOrder()

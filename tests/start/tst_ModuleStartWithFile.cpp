@@ -70,7 +70,6 @@ private Q_SLOTS:
     void startWithFile_data();
     void startWithFile();
     void stopWhileBuilding();
-    void noArguments();
 };
 
 void TestModuleStartWithFile::parseCommandLine_data()
@@ -90,8 +89,6 @@ void TestModuleStartWithFile::parseCommandLine_data()
     QTest::newRow("Japanese name, written in Shift-JIS")
         << QStringList{QStringLiteral("~/写真/a.jpg")} << QStringLiteral("C:\\写真\\a.jpg")
         << QByteArray("Pos, 1, 11\r\nC:\\\x8e\xca\x90\x5e\\a.jpg\r\n");
-    QTest::newRow("empty arguments left out") << QStringList{"", "~/a.jpg", ""} << "C:\\a.jpg"
-                                              << QByteArray("Pos, 1, 8\r\nC:\\a.jpg\r\n");
     QTest::newRow("no names") << QStringList{} << "" << QByteArray("\r\n");
 }
 
@@ -199,14 +196,6 @@ void TestModuleStartWithFile::stopWhileBuilding()
     QCOMPARE(f.home.readFile(kStartListFile), QByteArray("C:\\my pics\\a b.jpg\r\n"));
     QVERIFY(!f.state.StopRequested);
     QCOMPARE(f.calls.last(), QStringLiteral("open C:\\Lumentas\\TempList.lst"));
-}
-
-void TestModuleStartWithFile::noArguments()
-{
-    StartFixture f;
-    f.module.StartWithFile({});
-    QVERIFY(f.calls.isEmpty());
-    QVERIFY(!f.home.exists(kStartListFile));
 }
 
 QTEST_GUILESS_MAIN(TestModuleStartWithFile)
