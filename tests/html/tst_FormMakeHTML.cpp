@@ -150,9 +150,7 @@ void TestFormMakeHTML::framesShowOneAtATime_data()
         QTest::newRow(tag) << command << frame;
     };
     row("folders", "CommandShowFolderSet", "FrameSetDir");
-    row("fonts", "CommandSetFont", "FrameSetFont");
     row("buttons", "CommandShowSetButton", "FrameSetButton");
-    row("words", "CommandShowSetDaisuu", "FrameSetDaisuu");
 }
 
 void TestFormMakeHTML::framesShowOneAtATime()

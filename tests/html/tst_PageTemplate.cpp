@@ -56,7 +56,6 @@ void TestPageTemplate::comment_data()
     };
     row("inline, marks become <BR>", "<<<<<\r\nOne<<<<<Two", false, "[One<BR>Two] 5\r\n",
         QStringList());
-    row("inline, lower-case", "<<<<<\r\nOne<<<<<Two", true, "[one<br>two] 5\r\n", QStringList());
     row("mark at 4 is still inline", "abc<<<<<\r\nX", false, "[X] 5\r\n", QStringList());
     row("mark at 5 names a file", "abcd<<<<<\r\nX", false, "[] 5\r\n",
         QStringList{"ファイルが見つかりません。"});
