@@ -96,11 +96,7 @@ private Q_SLOTS:
     void dragByTheLabel();
     void dragWithTheMouse();
     void clickHugsTheText();
-    void clickGuardTwoOnlyResets();
-    void rightButtonShowsThePopupAtThePointer();
-    void popupClearsItsOptionsOnLoad();
-    void option1TakesTheCommentAway();
-    void option2OpensTheSettingsBeside();
+    void popupOptions();
 };
 
 void TestFormComment::loadAppliesTheCommentFields_data()
@@ -220,13 +216,17 @@ void TestFormComment::clickHugsTheText()
         QStringLiteral("この写真は二〇一九年の春、京都の哲学の道で撮ったものです。\n"
                        "桜が満開でした。"));
     QVERIFY(twWidth(form.Label1) > twScaleWidth(&form)); // the text runs past the window
-    const float left = twLeft(&form);
-    const float top = twTop(&form);
+    const QSize before = form.size();
+    const QPointF place(twLeft(&form), twTop(&form));
     const float frameWidth = twWidth(&form) - twScaleWidth(&form);
     const float frameHeight = twHeight(&form) - twScaleHeight(&form);
+    // ClickGuard 2 only lets the click through: the next one hugs.
+    form.ClickGuard = 2;
     clickLabel(form.Label1, Qt::LeftButton, {5, 5});
-    QCOMPARE(twLeft(&form), left);
-    QCOMPARE(twTop(&form), top);
+    QCOMPARE(form.size(), before);
+    QCOMPARE(form.ClickGuard, qint16(0));
+    clickLabel(form.Label1, Qt::LeftButton, {5, 5});
+    QCOMPARE(QPointF(twLeft(&form), twTop(&form)), place);
     QCOMPARE(twWidth(&form), onPixel(twWidth(form.Label1) + frameWidth + 200));
     QCOMPARE(twHeight(&form), onPixel(twHeight(form.Label1) + frameHeight + 200));
     // The label stands in the middle, about 100 twips from each side.
@@ -235,75 +235,36 @@ void TestFormComment::clickHugsTheText()
     saveShot(&form, QStringLiteral("FormComment"));
 }
 
-void TestFormComment::clickGuardTwoOnlyResets()
+void TestFormComment::popupOptions()
 {
     CommentFixture f;
-    FormComment& form = f.shownComment();
-    form.setCommentText(QStringLiteral("長いコメントが入りました、長いコメントが入りました"));
-    const QSize before = form.size();
-    form.ClickGuard = 2;
-    clickLabel(form.Label1, Qt::LeftButton, {5, 5});
-    QCOMPARE(form.size(), before);
-    QCOMPARE(form.ClickGuard, qint16(0));
-    clickLabel(form.Label1, Qt::LeftButton, {5, 5}); // the next click hugs again
-    QVERIFY(form.size() != before);
-}
-
-void TestFormComment::rightButtonShowsThePopupAtThePointer()
-{
-    CommentFixture f;
+    FormBase* settings = addFontAndColorWindow(f.forms);
     FormComment& form = f.shownComment();
     const QSize before = form.size();
     clickLabel(form.Label1, Qt::RightButton, {20, 10});
     FormOmake& popup = f.omake();
     QVERIFY(popup.isVisible());
-    QCOMPARE(twLeft(&popup), twLeft(&form) + 300);
-    QCOMPARE(twTop(&popup), twTop(&form) + 150);
-    QCOMPARE(form.size(), before); // a right click doesn't hug
-    saveShot(&popup, QStringLiteral("FormOmake"));
-}
-
-void TestFormComment::popupClearsItsOptionsOnLoad()
-{
-    CommentFixture f;
-    FormOmake& popup = f.omake();
-    popup.load();
-    popup.Option2->setChecked(true);
-    popup.unload();
-    popup.load();
-    QVERIFY(!popup.Option1->isChecked());
-    QVERIFY(!popup.Option2->isChecked());
+    QCOMPARE(QPointF(twLeft(&popup), twTop(&popup)),
+             QPointF(twLeft(&form) + 300, twTop(&form) + 150)); // at the pointer
+    QCOMPARE(form.size(), before);                              // a right click doesn't hug
     QCOMPARE(popup.Option1->text(), QStringLiteral("コメント消去"));
     QCOMPARE(popup.Option2->text(), QStringLiteral("文字、背景色変更"));
-}
+    saveShot(&popup, QStringLiteral("FormOmake"));
 
-void TestFormComment::option1TakesTheCommentAway()
-{
-    CommentFixture f;
-    FormComment& form = f.shownComment();
-    FormBase* settings = addFontAndColorWindow(f.forms);
-    settings->showForm();
-    clickLabel(form.Label1, Qt::RightButton, {20, 10});
-    QTest::mouseClick(f.omake().findChild<QRadioButton*>("Option1"), Qt::LeftButton);
-    for (const FormBase* gone :
-         {static_cast<FormBase*>(&form), settings, static_cast<FormBase*>(&f.omake())})
-        QVERIFY2(!gone->isLoaded() && !gone->isVisible(), qPrintable(gone->objectName()));
-}
-
-void TestFormComment::option2OpensTheSettingsBeside()
-{
-    CommentFixture f;
-    FormBase* settings = addFontAndColorWindow(f.forms);
-    FormComment& form = f.shownComment();
-    clickLabel(form.Label1, Qt::RightButton, {20, 10});
-    FormOmake& popup = f.omake();
+    // Option2: the settings beside the popup, for the comment; the comment stays.
     const QPointF beside(twLeft(&popup) + twWidth(&popup), twTop(&popup));
     QTest::mouseClick(popup.Option2, Qt::LeftButton);
-    QVERIFY(!popup.isVisible());
-    QVERIFY(form.isVisible()); // the comment stays
-    QVERIFY(settings->isVisible());
+    QVERIFY(!popup.isVisible() && form.isVisible() && settings->isVisible());
     QCOMPARE(QPointF(twLeft(settings), twTop(settings)), beside);
     QCOMPARE(settings->property("mode").toString(), QStringLiteral("COMMENT"));
+
+    // Shown again the popup has no option set; Option1 takes everything away.
+    clickLabel(form.Label1, Qt::RightButton, {20, 10});
+    QVERIFY(!popup.Option1->isChecked() && !popup.Option2->isChecked());
+    QTest::mouseClick(popup.Option1, Qt::LeftButton);
+    for (const FormBase* gone :
+         {static_cast<FormBase*>(&form), settings, static_cast<FormBase*>(&popup)})
+        QVERIFY2(!gone->isLoaded() && !gone->isVisible(), qPrintable(gone->objectName()));
 }
 
 QTEST_MAIN(TestFormComment)
