@@ -90,9 +90,7 @@ void TestFormMakeHTML::firstLoadTakesTheDefaults()
 void TestFormMakeHTML::loadReadsTheFiles()
 {
     Window w;
-    QImage star(12, 12, QImage::Format_RGB32);
-    star.fill(Qt::yellow);
-    star.save(w.f.home.native("star.bmp"));
+    w.f.home.picture("star.bmp", 12, 12, Qt::yellow);
     QStringList lines = {"C:\\Site", "pages",        "media",
                          "button",   "C:\\star.bmp", "http://Example.COM/",
                          "p",        "SHIFT_JIS",    "5",
@@ -178,10 +176,7 @@ void TestFormMakeHTML::framesShowOneAtATime()
 void TestFormMakeHTML::runAndShowTheFirstPage()
 {
     Window w;
-    w.f.home.makeFolder("show");
-    QImage picture(4, 4, QImage::Format_RGB32);
-    picture.fill(Qt::red);
-    picture.save(w.f.home.native("show/a.png"));
+    w.f.home.picture("show/a.png", 4, 4, Qt::red);
     w.f.state.ListArray.redim(kListColumns, 2);
     w.f.state.ListArray.set(kColMain, 1, "C:\\show\\a.png");
     w.form->links.listTotal = [] { return QStringLiteral("1"); };
