@@ -56,7 +56,6 @@ class TestFormSendTo : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void controls();
-    void missingFileGetsTheDefault();
     void fillsComboSend_data();
     void fillsComboSend();
     void loadingAgainReadsTheFileAgain();
@@ -70,18 +69,6 @@ void TestFormSendTo::controls()
     QCOMPARE((QStringList{w.form.windowTitle(), w.combo()->currentText(),
                           w.button("CommandDo")->text(), w.button("CommandSetting")->text()}),
              (QStringList{"実行ｱﾌﾟﾘｹｰｼｮﾝ選択", "ComboSend", "Send", "設定"}));
-}
-
-void TestFormSendTo::missingFileGetsTheDefault()
-{
-    Window w;
-    w.form.showForm();
-    QCOMPARE(w.f.home.readFile(kSendToList), defaultBytes());
-    QVERIFY(w.f.clock.waits.contains(100));
-    // Its only active line routes batch files to nothing: no program to send to.
-    QCOMPARE(w.items(), QStringList{});
-    QCOMPARE(w.combo()->currentText(), QString());
-    saveShot(&w.form, QStringLiteral("FormSendTo_default"));
 }
 
 void TestFormSendTo::fillsComboSend_data()
