@@ -28,7 +28,6 @@ private Q_SLOTS:
     void readText_data();
     void readText();
     void readMissingFile();
-    void readEmptyPath();
     void readTooManyLines_data();
     void readTooManyLines();
     void progressWindow();
@@ -69,13 +68,6 @@ void TestBasicReading::readMissingFile()
     QCOMPARE(f.ui.beeps, 1);
     QCOMPARE(f.ui.boxes, QStringList{"ファイルが見つかりません。"});
     QCOMPARE(f.host.stopEvents, QStringList{"unload"});
-}
-
-void TestBasicReading::readEmptyPath()
-{
-    BasicsFixture f;
-    QCOMPARE(f.basics.ReadTextOfFile(QString()), QString());
-    QVERIFY(f.ui.boxes.isEmpty());
 }
 
 void TestBasicReading::readTooManyLines_data()

@@ -31,7 +31,6 @@ private Q_SLOTS:
     void defaultCommandListBytes();
     void userWords_data();
     void userWords();
-    void missingCommandListIsWrittenAndUsed();
     void defaultExtTypeBytes();
     void extSlots_data();
     void extSlots();
@@ -84,15 +83,6 @@ void TestListFiles::userWords()
     QCOMPARE(f.state.CommandWord[FETCH(int, index)], FETCH(QString, word));
     SetCommandWords(f.basics, QStringLiteral("EG")); // the all-English switch
     QCOMPARE(f.state.CommandWord[FETCH(int, index)], englishCommandWords()[FETCH(int, index)]);
-}
-
-void TestListFiles::missingCommandListIsWrittenAndUsed()
-{
-    BasicsFixture f;
-    QDir(f.home.native("Lumentas/ForProgramRun_KDR")).removeRecursively();
-    PutCommandToArray(f.basics);
-    QVERIFY(f.home.exists(QString(kSettings) + "CommandList.txt"));
-    QCOMPARE(f.state.CommandWord[kDelay], QStringLiteral("オクレ"));
 }
 
 void TestListFiles::defaultExtTypeBytes()

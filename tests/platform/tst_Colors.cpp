@@ -22,9 +22,6 @@ private Q_SLOTS:
     void bgrToHexText();
     void colorFromBgr_data();
     void colorFromBgr();
-    // Runs before any application exists.
-    void systemColorsWithoutDesktop_data();
-    void systemColorsWithoutDesktop();
     // Makes a QGuiApplication with a palette of its own.
     void systemColorsFollowThePalette_data();
     void systemColorsFollowThePalette();
@@ -86,23 +83,6 @@ void TestColors::colorFromBgr()
     QFETCH(QColor, color);
     QCOMPARE(lumen::colorFromBgr(bgr), color);
     QCOMPARE(lumen::bgrFromColor(color), bgr);
-}
-
-void TestColors::systemColorsWithoutDesktop_data()
-{
-    QTest::addColumn<qint32>("bgr");
-    QTest::addColumn<QColor>("color");
-
-    QTest::newRow("button face") << kColorButtonFace << QColor(0xF0, 0xF0, 0xF0);
-    QTest::newRow("tooltip background") << qint32(0x80000018) << QColor(0xFF, 0xFF, 0xE1);
-}
-
-void TestColors::systemColorsWithoutDesktop()
-{
-    QFETCH(qint32, bgr);
-    QFETCH(QColor, color);
-    QVERIFY(!QCoreApplication::instance());
-    QCOMPARE(lumen::colorFromBgr(bgr), color);
 }
 
 void TestColors::systemColorsFollowThePalette_data()

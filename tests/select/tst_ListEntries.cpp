@@ -23,7 +23,6 @@ private Q_SLOTS:
 
     void lines_data();
     void lines();
-    void walkOptionsAndStop();
 };
 
 void TestListEntries::init()
@@ -79,20 +78,6 @@ void TestListEntries::lines()
 {
     const EntryRule rule = FETCH(bool, dropped) ? EntryRule::Dropped : EntryRule::CommandLine;
     QCOMPARE(listEntryLines(home_->fs, FETCH(QString, name), rule), FETCH(QStringList, lines));
-}
-
-void TestListEntries::walkOptionsAndStop()
-{
-    FolderWalkOptions options;
-    options.pattern = "c.*";
-    QCOMPARE(listEntryLines(home_->fs, "C:\\my pics", EntryRule::CommandLine, options),
-             QStringList{"C:\\my pics\\sub\\c.jpg"});
-
-    int calls = 0;
-    const auto stopAtThirdCall = [&calls] { return ++calls >= 3; };
-    // The top listed, its file taken, then the stop before folder sub.
-    QCOMPARE(listEntryLines(home_->fs, "C:\\my pics", EntryRule::Dropped, {}, stopAtThirdCall),
-             QStringList{"C:\\my pics\\a b.jpg"});
 }
 
 QTEST_GUILESS_MAIN(TestListEntries)

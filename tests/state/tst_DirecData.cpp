@@ -56,7 +56,6 @@ private Q_SLOTS:
     void shortAndLongFiles_data();
     void shortAndLongFiles();
     void missingFileIsCreatedEmpty();
-    void writeThenRead();
     void interruptedWriteKeepsTheOldRecord();
     void unwritableFolderKeepsTheOldRecord();
 };
@@ -182,18 +181,6 @@ void TestDirecData::missingFileIsCreatedEmpty()
     const DirecDataRecord record = readDirecData(path);
     QVERIFY(QFile::exists(path));
     QCOMPARE(record.toBytes(), QByteArray(1547, '\0'));
-}
-
-void TestDirecData::writeThenRead()
-{
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("DirecData.ran"));
-    DirecDataRecord record;
-    record.TextFontName = QStringLiteral("IPAPGothic");
-    record.ListAutoStart = kTrue;
-    QVERIFY(writeDirecData(path, record));
-    QCOMPARE(readAll(path).size(), 1547);
-    QVERIFY(readDirecData(path) == record);
 }
 
 void TestDirecData::interruptedWriteKeepsTheOldRecord()
