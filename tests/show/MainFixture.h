@@ -31,16 +31,9 @@ struct MainFixture : BasicsFixture {
         main.resize(900, 640);
     }
 
-    // A picture of `w` by `h` pixels at a path under the home.
     QString picture(const QString& relative, int w, int h, QColor colour = QColor(90, 140, 200))
     {
-        QImage image(w, h, QImage::Format_RGB32);
-        image.fill(colour);
-        const QString native = home.native(relative);
-        QDir().mkpath(QFileInfo(native).path());
-        image.save(native);
-        return QStringLiteral("C:\\") +
-               QString(relative).replace(QLatin1Char('/'), QLatin1Char('\\'));
+        return home.picture(relative, w, h, colour);
     }
 
     // Writes the list and opens it quickly (no half-minute view).

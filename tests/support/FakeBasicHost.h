@@ -19,7 +19,6 @@ public:
     QStringList askedMarks;
     // Answers the drive window: called with the mark; may set the state's pair.
     std::function<void(const QString&)> onAskDrive;
-    bool canAsk = true;
 
     void setMainCaption(const QString& caption) override { captions << caption; }
     void showStop() override { stopEvents << QStringLiteral("show"); }
@@ -28,8 +27,6 @@ public:
     void refreshFileControls() override { ++refreshes; }
     bool askForcedDrive(const QString& mark) override
     {
-        if (!canAsk)
-            return false;
         askedMarks << mark;
         if (onAskDrive)
             onAskDrive(mark);

@@ -8,8 +8,7 @@ void FakeClock::waitUntil(qint64 tick)
 {
     const qint64 length = tick - now;
     waits.append(length);
-    if (pumpEvents)
-        doEvents();
+    doEvents();
     if (onWait)
         onWait(length);
     if (tick > now)

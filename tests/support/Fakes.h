@@ -23,7 +23,6 @@ public:
     std::function<void(qint64)> onWait; // called with the wait's length
     std::function<void()> onDoEvents;   // called at every DoEvents
     int doEventsCount = 0;
-    bool pumpEvents = true;
 
     qint64 tickCount() override { return now; }
     void waitUntil(qint64 tick) override;

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
 
 namespace lumen::test {
 
@@ -43,6 +44,15 @@ bool TestHome::exists(const QString& relative) const
 void TestHome::makeFolder(const QString& relative) const
 {
     QDir().mkpath(native(relative));
+}
+
+QString TestHome::picture(const QString& relative, int w, int h, QColor colour) const
+{
+    QImage image(w, h, QImage::Format_RGB32);
+    image.fill(colour);
+    makeFolder(QFileInfo(relative).path());
+    image.save(native(relative));
+    return QStringLiteral("C:\\") + QString(relative).replace(u'/', u'\\');
 }
 
 } // namespace lumen::test

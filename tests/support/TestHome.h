@@ -5,6 +5,7 @@
 #include "platform/FileSystem.h"
 
 #include <QByteArray>
+#include <QColor>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -22,6 +23,9 @@ public:
     QByteArray readFile(const QString& relative) const;
     bool exists(const QString& relative) const;
     void makeFolder(const QString& relative) const;
+    // A PNG or JPEG (by the name) of one colour under the home; its program-form path.
+    QString picture(const QString& relative, int w = 40, int h = 30,
+                    QColor colour = QColor(90, 140, 200)) const;
 
     FileSystem fs;
 
