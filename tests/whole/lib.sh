@@ -55,8 +55,18 @@ await() {
 value() { # the value of a line of the last dump
   sed -n "s/^$1=//p" "$settings/StateDump.txt" | tr -d '\r'
 }
-key() { # a key pressed in the program's window
-  window=$(xdotool search --sync --onlyvisible --class lumenta | head -n 1)
+gone() { # waits until no line of the dump matches the pattern
+  for _ in $(seq 1 80); do
+    dump && ! grep -q "$1" "$settings/StateDump.txt" && return 0
+    sleep 0.1
+  done
+  return 1
+}
+key() { # a key pressed in the program's main window, the largest one shown
+  window=$(for w in $(xdotool search --sync --onlyvisible --class lumenta); do
+    eval "$(xdotool getwindowgeometry --shell "$w")"
+    echo "$((WIDTH * HEIGHT)) $w"
+  done | sort -n | tail -n 1 | cut -d ' ' -f 2)
   xdotool windowfocus --sync "$window" 2>/dev/null || true
   xdotool key --clearmodifiers "$1"
 }

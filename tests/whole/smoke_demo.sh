@@ -21,6 +21,7 @@ import -window root "$out/demo_list_view.png"
 
 key Escape                                   # end the list view
 await '^ListReady=True' || fail "the list view didn't end"
+gone '^Shown=FormStop' || fail "the stop window stayed after the list view"
 key Next                                     # the picture with its chime
 await '^TextFileName=.*\\mountains\.jpg' || fail "Page Down didn't turn to page 2"
 sleep 0.5
