@@ -54,8 +54,8 @@ bool isDriveSpec(const QString& text)
 // Also true for a link whose target is gone.
 bool existsOrLink(const QString& native)
 {
-    const QFileInfo info(native);
-    return info.exists() || info.isSymLink();
+    struct stat status {};
+    return ::lstat(QFile::encodeName(native).constData(), &status) == 0;
 }
 
 // A name the program form can spell holds no "\". Names whose bytes aren't
@@ -288,15 +288,28 @@ std::optional<FileSystem::Parts> FileSystem::absolute(const QString& programPath
 
 FileSystem::Parts FileSystem::resolved(const Parts& path) const
 {
-    Parts found{path.drive, {}};
-    QString native = drives_.drive(path.drive).root;
-    bool exists = !native.isEmpty();
-    for (const QString& name : path.names) {
+    // Most paths are spelled as they stand on disk: the deepest part that
+    // exists as written is found from the end, and only the parts below it
+    // are looked for without regard to case.
+    Parts found{path.drive, path.names};
+    QString native = nativeOf(path);
+    if (native.isEmpty())
+        return found;
+    qsizetype exact = path.names.size();
+    for (; exact > 0; --exact) {
+        if (existsOrLink(native))
+            break;
+        native.truncate(native.lastIndexOf(u'/'));
+        if (native.isEmpty())
+            native = QStringLiteral("/");
+    }
+    for (qsizetype i = exact; i < path.names.size(); ++i) {
         // Once a part is missing, the parts below it are kept as given.
-        const QString onDisk = exists ? findEntry(native, name) : QString();
-        exists = !onDisk.isEmpty();
-        found.names.append(exists ? onDisk : name);
-        native = joinNative(native, found.names.last());
+        const QString onDisk = findEntry(native, path.names[i]);
+        if (onDisk.isEmpty())
+            break;
+        found.names[i] = onDisk;
+        native = joinNative(native, onDisk);
     }
     return found;
 }
