@@ -376,13 +376,20 @@ QString FileSystem::dir(const QString& pathOrPattern) const
     if (cut == 0 && isDriveSpec(text))
         cut = 2;
     const auto folderPath = absolute(cut == 0 ? current_ : text.left(cut));
-    const QString folder = folderPath ? nativeOf(resolved(*folderPath)) : QString();
     const QString word = chopTrailing(text.mid(cut), u" ");
-    if (folder.isEmpty() || word == u"." || word == u"..")
+    if (!folderPath || word == u"." || word == u"..")
         return QString();
     QString name = chopTrailing(word, u" .");
     if (name.isEmpty())
         name = QStringLiteral("*.*");
+    // The usual case, at the cost of one look: the file as it is spelled.
+    Parts spelled = *folderPath;
+    spelled.names.append(name);
+    if (isNormalFile(nativeOf(spelled)))
+        return name;
+    const QString folder = nativeOf(resolved(*folderPath));
+    if (folder.isEmpty())
+        return QString();
 
     const QString literal = findEntry(folder, name);
     if (!literal.isEmpty() && isNormalFile(joinNative(folder, literal)))
