@@ -527,11 +527,11 @@ bool FileSystem::copyFile(const QString& from, const QString& to)
 {
     const QString source = toNative(from);
     const QString target = toNative(to);
-    if (source.isEmpty() || target.isEmpty() || !QFileInfo(source).isFile() ||
-        QFileInfo(target).isDir())
+    if (source.isEmpty() || target.isEmpty())
         return false;
     // Copied to a hidden file beside the target, then renamed over it: the
-    // target is never half-written.
+    // target is never half-written. A source that is no file fails the copy,
+    // a target that is a folder fails the rename.
     const QFileInfo targetInfo(target);
     const QString staged = targetInfo.path() + QStringLiteral("/.") + targetInfo.fileName() +
                            QStringLiteral(".%1.copy").arg(::getpid());
