@@ -304,8 +304,10 @@ FileSystem::Parts FileSystem::resolved(const Parts& path) const
             native = QStringLiteral("/");
     }
     for (qsizetype i = exact; i < path.names.size(); ++i) {
-        // Once a part is missing, the parts below it are kept as given.
-        const QString onDisk = findEntry(native, path.names[i]);
+        // Once a part is missing, the parts below it are kept as given. The
+        // first part below the deepest one is known to be missing as written.
+        const QString onDisk =
+            i == exact ? findIgnoringCase(native, path.names[i]) : findEntry(native, path.names[i]);
         if (onDisk.isEmpty())
             break;
         found.names[i] = onDisk;

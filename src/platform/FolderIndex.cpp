@@ -91,9 +91,12 @@ QStringList FolderIndex::entriesIgnoringCase(const QString& folder, const QStrin
         return {};
     const QString key = folded(name);
     QMutexLocker lock(&mutex_);
-    if (notices_ >= 0 && isLocal(path)) {
+    if (notices_ >= 0) {
         readNotices();
-        if (Folder* kept = this->kept(folder, info.st_dev, info.st_ino)) {
+        Folder* kept = known(folder, info.st_dev, info.st_ino);
+        if (!kept && isLocal(path))
+            kept = keep(folder, info.st_dev, info.st_ino);
+        if (kept) {
             kept->lastUse = ++uses_;
             return kept->byFolded.value(key);
         }
@@ -119,16 +122,23 @@ QHash<QString, QStringList> FolderIndex::readFolder(const QString& folder, bool*
     return byFolded;
 }
 
-// The kept index of the folder, made now if it isn't kept yet; nullptr when
-// the folder can't be watched.
-FolderIndex::Folder* FolderIndex::kept(const QString& folder, dev_t device, ino_t inode)
+// The kept index of the folder, or nullptr when it isn't kept.
+FolderIndex::Folder* FolderIndex::known(const QString& folder, dev_t device, ino_t inode)
 {
-    if (const auto known = watches_.constFind(folder); known != watches_.constEnd()) {
-        const auto it = folders_.find(*known);
-        if (it != folders_.end() && it->device == device && it->inode == inode)
-            return &*it;
-        forget(*known); // the path names another folder now
-    }
+    const auto watch = watches_.constFind(folder);
+    if (watch == watches_.constEnd())
+        return nullptr;
+    const auto it = folders_.find(*watch);
+    if (it != folders_.end() && it->device == device && it->inode == inode)
+        return &*it;
+    forget(*watch); // the path names another folder now
+    return nullptr;
+}
+
+// The index of a folder that isn't kept yet, made and kept now; nullptr when
+// the folder can't be watched.
+FolderIndex::Folder* FolderIndex::keep(const QString& folder, dev_t device, ino_t inode)
+{
     const QByteArray path = QFile::encodeName(folder);
     const int watch = ::inotify_add_watch(notices_, path.constData(), kChanges);
     if (watch < 0)

@@ -43,7 +43,8 @@ private:
     void readNotices();
     void forget(int watch);
     void forgetAll();
-    Folder* kept(const QString& folder, dev_t device, ino_t inode);
+    Folder* known(const QString& folder, dev_t device, ino_t inode);
+    Folder* keep(const QString& folder, dev_t device, ino_t inode);
     static QHash<QString, QStringList> readFolder(const QString& folder, bool* ok);
 
     QMutex mutex_;
