@@ -1,0 +1,235 @@
+// The program's text files: Shift-JIS bytes as Windows writes them, UTF-8
+// with and without a byte-order mark, damaged bytes, fields cut to a byte
+// width, the parting of lines; and whole-file writes that replace the old
+// file completely or not at all, even when the process dies in the middle.
+#include "platform/SafeFile.h"
+#include "platform/TextCodec.h"
+
+#include "support/Fetch.h"
+#include "support/TestHome.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTest>
+
+#include <csignal>
+#include <optional>
+#include <sys/wait.h>
+#include <unistd.h>
+
+using namespace lumen;
+using namespace lumen::text;
+using namespace Qt::StringLiterals;
+using lumen::test::TestHome;
+
+namespace {
+
+QByteArray hex(const char* digits)
+{
+    return QByteArray::fromHex(digits);
+}
+
+const QByteArray kBom = hex("EF BB BF");
+
+QStringList entries(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+}
+
+} // namespace
+
+class TestTextFiles : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void decodeBytes_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("expected");
+        const QChar bad = QChar::ReplacementCharacter;
+        QTest::newRow("CP932 katakana") << hex("83 74 83 40 83 43 83 8B") << u"ファイル"_s;
+        QTest::newRow("CP932 trail byte 5C") << hex("95 5C 2E 6A 70 67") << u"表.jpg"_s;
+        QTest::newRow("UTF-8 without BOM")
+            << hex("E3 83 95 E3 82 A1 E3 82 A4 E3 83 AB") << u"ファイル"_s;
+        QTest::newRow("UTF-8 outside CP932") << hex("ED 95 9C F0 9F 98 80") << u"한😀"_s;
+        QTest::newRow("BOM before ASCII") << kBom + "a\r\n" << u"a\r\n"_s;
+        QTest::newRow("lone lead byte at the end") << hex("41 81") << u"A"_s + bad;
+        QTest::newRow("lead byte with bad trail") << hex("81 20 41") << bad + u" A"_s;
+        QTest::newRow("bad byte between characters")
+            << hex("83 74 FF 83 40 A0 83 43") << u"フ"_s + bad + u"ァ"_s + bad + u"イ"_s;
+    }
+    void decodeBytes() { QCOMPARE(decode(FETCH(QByteArray, bytes)), FETCH(QString, expected)); }
+
+    // A list of the largest size the program takes, with one damaged byte in
+    // the middle: every line before and after it reads.
+    void largeListDecodesEveryLine()
+    {
+        const QByteArray line = hex("83 74 83 40 83 43 83 8B") + " C:\\pics\\" +
+                                hex("BA D2 DD C4") + ".jpg,9999," + hex("81 60 87 40") +
+                                QByteArray(60, 'x') + "\r\n";
+        const int count = 32767;
+        QByteArray bytes = line.repeated(count);
+        bytes[line.size() * (count / 2) + 2] = '\xFF'; // in place of the second lead byte
+
+        const QStringList lines = lumen::text::splitLines(decode(bytes));
+        QCOMPARE(lines.size(), count);
+        const QString expected = u"ファイル C:\\pics\\ｺﾒﾝﾄ.jpg,9999,～①"_s + QString(60, u'x');
+        QCOMPARE(lines.first(), expected);
+        QCOMPARE(lines.last(), expected);
+        QCOMPARE(lines[count / 2], QString(expected).replace(1, 1, u"\uFFFD@"_s));
+        QCOMPARE(lines[count / 2 + 1], expected);
+    }
+
+    void encodeCp932_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<std::optional<QByteArray>>("expected");
+        const std::optional<QByteArray> none;
+        QTest::newRow("ASCII with backslash")
+            << u"C:\\a.jpg"_s << std::optional(hex("43 3A 5C 61 2E 6A 70 67"));
+        QTest::newRow("Hangul") << u"한"_s << none;
+        QTest::newRow("yen sign maps one way") << u"¥100"_s << none;
+        QTest::newRow("wave dash maps one way") << u"\u301C"_s << none;
+        QTest::newRow("lone surrogate") << QString(QChar(0xD800)) << none;
+    }
+    void encodeCp932()
+    {
+        const std::optional<QByteArray> bytes = lumen::text::encodeCp932(FETCH(QString, text));
+        QCOMPARE(bytes, FETCH(std::optional<QByteArray>, expected));
+        if (bytes)
+            QCOMPARE(decodeCp932(*bytes), FETCH(QString, text));
+    }
+
+    void encodeForFile_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QByteArray>("expected");
+        QTest::newRow("Japanese in CP932")
+            << u"ファイル\r\n"_s << hex("83 74 83 40 83 43 83 8B 0D 0A");
+        QTest::newRow("tilde and circled one in CP932") << u"～①"_s << hex("81 60 87 40");
+        QTest::newRow("Hangul in UTF-8")
+            << u"ファイル한\r\n"_s
+            << kBom + hex("E3 83 95 E3 82 A1 E3 82 A4 E3 83 AB ED 95 9C 0D 0A");
+        QTest::newRow("yen sign in UTF-8") << u"¥1"_s << kBom + hex("C2 A5 31");
+        // In CP932 these would be C3 BD, which reads as UTF-8 "ý".
+        QTest::newRow("kana that look like UTF-8") << u"ﾃｽ"_s << kBom + hex("EF BE 83 EF BD BD");
+    }
+    void encodeForFile()
+    {
+        const QByteArray bytes = lumen::text::encodeForFile(FETCH(QString, text));
+        QCOMPARE(bytes, FETCH(QByteArray, expected));
+        QCOMPARE(decode(bytes), FETCH(QString, text));
+    }
+
+    void encodeField_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("width");
+        QTest::addColumn<QByteArray>("expected");
+        QTest::newRow("CP932 cut inside a character")
+            << u"ファイル"_s << 7 << hex("83 74 83 40 83 43");
+        QTest::newRow("CP932 cut after ASCII") << u"aファ"_s << 2 << hex("61");
+        QTest::newRow("CP932 first character too wide") << u"ファイル"_s << 1 << QByteArray();
+        QTest::newRow("CP932 trail byte 5C") << u"表a"_s << 2 << hex("95 5C");
+        QTest::newRow("UTF-8 cut inside a character") << u"aファ한"_s << 5 << hex("61 E3 83 95");
+        QTest::newRow("UTF-8 first character too wide") << u"한a"_s << 2 << QByteArray();
+        QTest::newRow("kana that look like UTF-8")
+            << u"ﾃｽ.jpg"_s << 20 << hex("EF BE 83 EF BD BD 2E 6A 70 67");
+    }
+    void encodeField()
+    {
+        const QString text = FETCH(QString, text);
+        const QByteArray field = lumen::text::encodeField(text, FETCH(int, width));
+        QCOMPARE(field, FETCH(QByteArray, expected));
+        QVERIFY(text.startsWith(decode(field)));
+    }
+
+    void splitLines_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("mixed") << u"a\r\nb\nc\rd"_s << QStringList{u"a"_s, u"b"_s, u"c"_s, u"d"_s};
+        QTest::newRow("empty last line") << u"a\r\n\r\n"_s << QStringList{u"a"_s, QString()};
+        QTest::newRow("LF then CR is two breaks") << u"\n\r"_s << QStringList{QString(), QString()};
+        QTest::newRow("CR before CR LF") << u"a\r\r\nb"_s << QStringList{u"a"_s, QString(), u"b"_s};
+        QTest::newRow("blanks and tabs kept")
+            << u" a \t\r\n\t"_s << QStringList{u" a \t"_s, u"\t"_s};
+    }
+    void splitLines()
+    {
+        QCOMPARE(lumen::text::splitLines(FETCH(QString, text)), FETCH(QStringList, expected));
+    }
+
+    void writeReplacesWholeFile()
+    {
+        const TestHome home;
+        const QString target = home.native("Settings.dat");
+        QCOMPARE(readTextFile(target), std::optional<QString>()); // missing
+        home.writeFile("Settings.dat", QByteArray(100, 'x'));
+        QVERIFY(writeFileSafely(target, "ab"));
+        QCOMPARE(home.readFile("Settings.dat"), QByteArray("ab"));
+        QCOMPARE(entries(home.path()), QStringList{"Settings.dat"}); // no temporary file left
+        QVERIFY(writeFileSafely(target, QByteArray()));
+        QCOMPARE(readTextFile(target), std::optional(QString())); // empty, yet there
+    }
+
+    void failedWriteLeavesNothing()
+    {
+        const TestHome home;
+        const QString folder = home.native("f");
+        QVERIFY(!writeFileSafely(folder + u"/a.lst"_s, "new")); // the folder is missing
+        QVERIFY(!QFile::exists(folder));
+        QVERIFY(QDir().mkpath(folder));
+        QVERIFY(!writeFileSafely(folder, "new")); // the target is a folder
+        QVERIFY(QFileInfo(folder).isDir());
+        QCOMPARE(entries(home.path()), QStringList{"f"});
+    }
+
+    void interruptedWriteKeepsOldFile_data()
+    {
+        QTest::addColumn<bool>("hasOld");
+        QTest::addColumn<bool>("killed"); // by a signal, else by _exit
+        QTest::newRow("old file, process killed") << true << true;
+        QTest::newRow("no old file, process exits") << false << false;
+    }
+    // A child process writes new bytes and dies just before they replace the
+    // target. The target must then be the old file, whole, or still absent.
+    void interruptedWriteKeepsOldFile()
+    {
+        const bool hasOld = FETCH(bool, hasOld);
+        const bool killed = FETCH(bool, killed);
+        const TestHome home;
+        const QString target = home.native("RunFile.Lst");
+        const QByteArray old = QByteArray("old line\r\n").repeated(1000);
+        const QByteArray next = QByteArray("new\r\n").repeated(5000);
+        if (hasOld)
+            home.writeFile("RunFile.Lst", old);
+
+        const pid_t child = fork();
+        QVERIFY(child >= 0);
+        if (child == 0) {
+            testing::setBeforeCommitHook([killed] {
+                if (killed)
+                    std::raise(SIGKILL);
+                _exit(1);
+            });
+            writeFileSafely(target, next);
+            _exit(2); // the hook never ran
+        }
+        int status = 0;
+        QCOMPARE(waitpid(child, &status, 0), child);
+        if (killed)
+            QVERIFY(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+        else
+            QVERIFY(WIFEXITED(status) && WEXITSTATUS(status) == 1);
+        QCOMPARE(QFile::exists(target), hasOld);
+        if (hasOld)
+            QCOMPARE(home.readFile("RunFile.Lst"), old);
+
+        QVERIFY(writeFileSafely(target, next)); // the next write goes through as usual
+        QCOMPARE(home.readFile("RunFile.Lst"), next);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestTextFiles)
+#include "tst_TextFiles.moc"
