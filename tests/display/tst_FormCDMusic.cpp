@@ -1,6 +1,4 @@
-// FormCDMusic and its MCI control on a recording CD drive: opening a disc
-// from a track file, stepping to a typed track, the fixed window size, the
-// track number of a file name.
+// FormCDMusic and its MCI control on a recording CD drive.
 #include "display/FormCDMusic.h"
 #include "display/MMControl.h"
 #include "platform/Colors.h"
@@ -9,7 +7,6 @@
 #include "support/Fetch.h"
 #include "support/Shots.h"
 
-#include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -37,30 +34,15 @@ struct CdFixture : BasicsFixture {
 class TestFormCDMusic : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void controlsAndCaptions();
     void getTrackFromName_data();
     void getTrackFromName();
     void showCDMusicOpensTheDisc_data();
     void showCDMusicOpensTheDisc();
     void setTrackStepsToTheTypedTrack_data();
     void setTrackStepsToTheTypedTrack();
-    void trackPastTheEndStepsUntilClosed_data();
-    void trackPastTheEndStepsUntilClosed();
-    void transportButtons();
+    void transportButtonsAndUnload();
     void resizeAlwaysEndsAtTheFixedSize();
-    void unloadStopsTheDisc();
 };
-
-void TestFormCDMusic::controlsAndCaptions()
-{
-    CdFixture f(5);
-    FormCDMusic form(f.basics);
-    QCOMPARE((QStringList{form.windowTitle(), form.findChild<QCheckBox*>("CheckOneMusic")->text(),
-                          form.findChild<QPushButton*>("CommandSetTrack")->text()}),
-             (QStringList{"CD ミュージック", "一曲停止", "トラック指定"}));
-    // Nothing is open: the buttons wait.
-    QVERIFY(!form.MMControl1->findChild<QToolButton*>("Play")->isEnabled());
-}
 
 void TestFormCDMusic::getTrackFromName_data()
 {
@@ -112,74 +94,57 @@ void TestFormCDMusic::showCDMusicOpensTheDisc()
 
 void TestFormCDMusic::setTrackStepsToTheTypedTrack_data()
 {
-    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("typed"); // on track 3 of 5
     QTest::addColumn<int>("track");
     QTest::addColumn<int>("steps");
-    QTest::newRow("the current track plays at once") << "3" << 3 << 0;
-    QTest::newRow("forward") << "5" << 5 << 2;
-    QTest::newRow("back") << "1" << 1 << 2;
-    QTest::newRow("blanks around") << "  4 " << 4 << 1;
-    QTest::newRow("a fraction rounds") << "1.6" << 2 << 1;
+    QTest::addColumn<int>(
+        "stop"); // after 6 steps: 0 never, 1 the window closes, 2 the program ends
+    QTest::newRow("the current track plays at once") << "3" << 3 << 0 << 0;
+    QTest::newRow("forward") << "5" << 5 << 2 << 0;
+    QTest::newRow("back") << "1" << 1 << 2 << 0;
+    QTest::newRow("blanks around") << "  4 " << 4 << 1 << 0;
+    QTest::newRow("a fraction rounds") << "1.6" << 2 << 1 << 0;
+    QTest::newRow("past the end until the window closes") << "9" << 5 << 6 << 1;
+    QTest::newRow("past the end until the program ends") << "9" << 5 << 6 << 2;
 }
 
 void TestFormCDMusic::setTrackStepsToTheTypedTrack()
 {
+    QFETCH(int, track);
+    QFETCH(int, steps);
+    QFETCH(int, stop);
     CdFixture f(5);
     FormCDMusic form(f.basics);
     form.ShowCDMusic(QStringLiteral("D:\\Track03.cda"));
     form.TextMyTrack->setText(FETCH(QString, typed));
     QList<qint32> colours;
-    f.clock.onWait = [&](qint64) { colours << backColor(form.CommandSetTrack); };
+    f.clock.onWait = [&](qint64) {
+        colours << backColor(form.CommandSetTrack);
+        if (stop == 1 && f.clock.waits.size() == 6)
+            form.close(); // the frame's close box
+        f.clock.setEnding(stop == 2 && f.clock.waits.size() == 6);
+    };
     form.CommandSetTrack->click();
-    QFETCH(int, track);
-    QFETCH(int, steps);
     QCOMPARE(f.clock.waits, QList<qint64>(steps, 300));
     QCOMPARE(colours, QList<qint32>(steps, kColorGreen));
-    QCOMPARE(f.media.drive.calls.mid(f.media.drive.calls.size() - 2),
-             (QStringList{"stop", QStringLiteral("play /dev/sr0 %1").arg(track)}));
-    QCOMPARE(form.CurrentCDTrack, qint16(track));
     QCOMPARE(int(form.MMControl1->Track()), track);
+    QCOMPARE(f.media.drive.calls.first(), QStringLiteral("stop"));
+    QCOMPARE(f.media.drive.calls.filter(QStringLiteral("play")),
+             stop ? QStringList() : QStringList{QStringLiteral("play /dev/sr0 %1").arg(track)});
+    QCOMPARE(form.CurrentCDTrack, qint16(stop ? 0 : track));
+    QCOMPARE(form.isLoaded(), stop != 1);
     QCOMPARE(backColor(form.CommandSetTrack), kColorButtonFace);
 }
 
-void TestFormCDMusic::trackPastTheEndStepsUntilClosed_data()
-{
-    QTest::addColumn<bool>("ending");
-    QTest::newRow("the window is closed") << false;
-    QTest::newRow("the program ends") << true;
-}
-
-void TestFormCDMusic::trackPastTheEndStepsUntilClosed()
-{
-    QFETCH(bool, ending);
-    CdFixture f(5);
-    FormCDMusic form(f.basics);
-    form.ShowCDMusic(QStringLiteral("D:\\Track04.cda"));
-    form.TextMyTrack->setText(QStringLiteral("9"));
-    f.clock.onWait = [&](qint64) {
-        if (f.clock.waits.size() < 6)
-            return;
-        if (ending)
-            f.clock.setEnding(true);
-        else
-            form.close(); // the frame's close box
-    };
-    form.CommandSetTrack->click();
-    QCOMPARE(f.clock.waits.size(), 6);
-    QCOMPARE(int(form.MMControl1->Track()), 5); // stepped on at the last track
-    QVERIFY(!f.media.drive.calls.contains(QStringLiteral("play /dev/sr0 5")));
-    QCOMPARE(form.CurrentCDTrack, qint16(0));
-    QCOMPARE(form.isLoaded(), ending);
-}
-
-void TestFormCDMusic::transportButtons()
+void TestFormCDMusic::transportButtonsAndUnload()
 {
     CdFixture f(5);
     FormCDMusic form(f.basics);
-    form.ShowCDMusic(QStringLiteral("D:\\Track02.cda"));
     auto button = [&](const char* name) {
         return form.MMControl1->findChild<QToolButton*>(QString::fromLatin1(name));
     };
+    QVERIFY(!button("Play")->isEnabled()); // nothing open yet
+    form.ShowCDMusic(QStringLiteral("D:\\Track02.cda"));
     QVERIFY(button("Play")->isEnabled());
     QTest::mouseClick(button("Next"), Qt::LeftButton);
     QCOMPARE(int(form.MMControl1->Track()), 3);
@@ -193,8 +158,11 @@ void TestFormCDMusic::transportButtons()
     QTest::mouseClick(button("Play"), Qt::LeftButton);
     QTest::mouseClick(button("Next"), Qt::LeftButton); // playing on at the next track
     QCOMPARE(f.media.drive.calls, (QStringList{"play /dev/sr0 2", "play /dev/sr0 3"}));
-    form.show();
     saveShot(&form, QStringLiteral("FormCDMusic"));
+    QVERIFY(form.unload()); // stops the disc
+    QCOMPARE(f.media.drive.calls.mid(2), QStringList{"stop"});
+    QCOMPARE(form.MMControl1->Command(), QStringLiteral("Stop"));
+    QVERIFY(!form.isVisible());
 }
 
 void TestFormCDMusic::resizeAlwaysEndsAtTheFixedSize()
@@ -218,18 +186,6 @@ void TestFormCDMusic::resizeAlwaysEndsAtTheFixedSize()
     QVERIFY(form.windowState() & Qt::WindowMinimized);
     form.showNormal();
     QTRY_VERIFY(fixed());
-}
-
-void TestFormCDMusic::unloadStopsTheDisc()
-{
-    CdFixture f(5);
-    FormCDMusic form(f.basics);
-    form.ShowCDMusic(QStringLiteral("D:\\Track03.cda"));
-    form.MMControl1->setCommand(QStringLiteral("Play"));
-    QVERIFY(form.unload());
-    QCOMPARE(f.media.drive.calls, (QStringList{"play /dev/sr0 3", "stop"}));
-    QCOMPARE(form.MMControl1->Command(), QStringLiteral("Stop"));
-    QVERIFY(!form.isVisible());
 }
 
 QTEST_MAIN(TestFormCDMusic)

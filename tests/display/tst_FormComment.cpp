@@ -1,5 +1,5 @@
-// FormComment and its popup FormOmake driven by their object names: the
-// comment fields of the record, dragging, hugging the text, the popup.
+// FormComment and its popup FormOmake: the comment fields of the record,
+// dragging, hugging the text, the popup.
 #include "display/FormComment.h"
 #include "display/FormOmake.h"
 #include "platform/Colors.h"
@@ -23,8 +23,7 @@ using namespace lumen::test;
 
 namespace {
 
-// The comment window and its popup made through the registry, as the
-// program makes them.
+// The windows made through the registry, as the program makes them.
 struct CommentFixture : BasicsFixture {
     FormRegistry forms;
 
@@ -34,17 +33,11 @@ struct CommentFixture : BasicsFixture {
                   [this]() -> FormBase* { return new FormComment(basics, forms); });
         forms.add(QStringLiteral("FormOmake"),
                   [this]() -> FormBase* { return new FormOmake(forms); });
-        DirecDataRecord& record = state.DirecData;
-        record.CommentFontName = QStringLiteral("MS UI Gothic");
-        record.CommentFontSize = QStringLiteral("9");
-        record.CommentBackColor = QStringLiteral("&H00FF8080&");
-        record.CommentForeColor = QStringLiteral("0");
     }
     FormComment& comment()
     {
         return *static_cast<FormComment*>(forms.form(QStringLiteral("FormComment")));
     }
-    FormOmake& omake() { return *static_cast<FormOmake*>(forms.form(QStringLiteral("FormOmake"))); }
     // The comment on the screen at (1500, 1200) twips, 300 by 90 pixels.
     FormComment& shownComment()
     {
@@ -55,14 +48,6 @@ struct CommentFixture : BasicsFixture {
         return form;
     }
 };
-
-// A settings-window stand-in that the popup can open by name.
-FormBase* addFontAndColorWindow(FormRegistry& forms)
-{
-    forms.add(QStringLiteral("FormSetFontAndColor"),
-              []() -> FormBase* { return new FormBase(QStringLiteral("FormSetFontAndColor")); });
-    return forms.form(QStringLiteral("FormSetFontAndColor"));
-}
 
 void sendMouse(QWidget* target, QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons buttons,
                QPointF at)
@@ -91,10 +76,8 @@ private Q_SLOTS:
     void initTestCase() { installFontSubstitutes(); }
     void loadAppliesTheCommentFields_data();
     void loadAppliesTheCommentFields();
-    void loadWritesTheFieldsBackTrimmed();
     void dragByTheLabel_data();
     void dragByTheLabel();
-    void dragWithTheMouse();
     void clickHugsTheText();
     void popupOptions();
 };
@@ -112,6 +95,7 @@ void TestFormComment::loadAppliesTheCommentFields_data()
     };
     row("padded fields are trimmed", {"  IPAGothic  ", " 12 ", " &H808080 ", " &HFF "}, "IPAGothic",
         12, 0x808080, 255);
+    row("line ends go too", {"IPAGothic", "12\r\n", "   &HFF&", ""}, "IPAGothic", 12, 255, -1);
     row("an empty font name leaves the design font", {"", "11", "0", "16777215"}, "MS UI Gothic",
         11, 0, 0xFFFFFF);
     row("what isn't a number leaves size and colours", {"IPAGothic", "big", "red", ""}, "IPAGothic",
@@ -119,16 +103,19 @@ void TestFormComment::loadAppliesTheCommentFields_data()
     row("size 0 is refused", {"IPAGothic", "0", "&HFF&", "&H0&"}, "IPAGothic", 9, 255, 0);
 }
 
+// The fields come NUL-padded, as new ones do, and go back trimmed and padded
+// with blanks.
 void TestFormComment::loadAppliesTheCommentFields()
 {
     CommentFixture f;
     DirecDataRecord& record = f.state.DirecData;
+    FixedString<15>* stored[] = {&record.CommentFontName, &record.CommentFontSize,
+                                 &record.CommentBackColor, &record.CommentForeColor};
     const QStringList fields = FETCH(QStringList, fields);
-    record.CommentFontName = fields[0];
-    record.CommentFontSize = fields[1];
-    record.CommentBackColor = fields[2];
-    record.CommentForeColor = fields[3];
+    for (int i = 0; i < 4; ++i)
+        stored[i]->setBytes(fields[i].toLatin1());
     FormComment& form = f.comment();
+    QSignalSpy front(&form, &FormComment::cameToFront);
     form.ClickGuard = 2;
     form.load();
 
@@ -138,74 +125,40 @@ void TestFormComment::loadAppliesTheCommentFields()
     QCOMPARE(backColor(&form), FETCH(int, backColor));
     QCOMPARE(foreColor(label), FETCH(int, foreColor));
     QCOMPARE(form.ClickGuard, qint16(0));
-}
-
-void TestFormComment::loadWritesTheFieldsBackTrimmed()
-{
-    CommentFixture f;
-    DirecDataRecord& record = f.state.DirecData;
-    record.CommentFontName.setBytes("  IPAGothic"); // NUL-padded, as a new field is
-    record.CommentFontSize.setBytes("12\r\n");
-    record.CommentBackColor = QStringLiteral("   &HFF&");
-    record.CommentForeColor.setBytes(QByteArray());
-    QSignalSpy front(&f.comment(), &FormComment::cameToFront);
-    f.comment().load();
-    QCOMPARE(record.CommentFontName.bytes(), QByteArray("IPAGothic      "));
-    QCOMPARE(record.CommentFontSize.bytes(), QByteArray("12             "));
-    QCOMPARE(record.CommentBackColor.bytes(), QByteArray("&HFF&          "));
-    QCOMPARE(record.CommentForeColor.bytes(), QByteArray(15, ' '));
     QCOMPARE(front.count(), 1);
+    for (int i = 0; i < 4; ++i)
+        QCOMPARE(stored[i]->bytes(), fields[i].trimmed().toLatin1().leftJustified(15));
 }
 
 void TestFormComment::dragByTheLabel_data()
 {
-    QTest::addColumn<int>("buttons");
-    QTest::addColumn<float>("x"); // pointer in the label, twips; the drag starts at (150, 150)
-    QTest::addColumn<float>("y");
-    QTest::addColumn<bool>("moves");
-    QTest::addColumn<bool>("front");
+    QTest::addColumn<int>("buttons"); // held while moving; pressed at (10, 10), 150 twips each
+    QTest::addColumn<QList<QPointF>>("moves");
+    QTest::addColumn<QPoint>("moved"); // the window, pixels
+    QTest::addColumn<int>("front");
     const int left = Qt::LeftButton;
-    QTest::newRow("10 twips is no drag") << left << 156.f << 158.f << false << true;
-    QTest::newRow("10.5 twips moves") << left << 160.5f << 150.f << true << true;
+    QTest::newRow("10 twips is no drag")
+        << left << QList<QPointF>{{10.4, 10 + 8 / 15.}} << QPoint() << 1;
+    QTest::newRow("10.5 twips moves") << left << QList<QPointF>{{10.7, 10}} << QPoint(1, 0) << 1;
     QTest::newRow("right button held is no drag")
-        << int(Qt::RightButton) << 180.f << 105.f << false << false;
+        << int(Qt::RightButton) << QList<QPointF>{{12, 7}} << QPoint() << 0;
+    // The label moves with the window; the pointer goes on from there.
+    QTest::newRow("on and on") << left << QList<QPointF>{{10.5, 10}, {14, 7}, {15, 10}}
+                               << QPoint(9, -3) << 3;
 }
 
 void TestFormComment::dragByTheLabel()
 {
     CommentFixture f;
     FormComment& form = f.shownComment();
-    const float left = twLeft(&form);
-    const float top = twTop(&form);
-    QSignalSpy front(&form, &FormComment::cameToFront);
-    form.Label1_MouseDown(Qt::LeftButton, 150.4f, 149.6f);
-    const float x = FETCH(float, x);
-    const float y = FETCH(float, y);
-    form.Label1_MouseMove(Qt::MouseButtons(FETCH(int, buttons)), x, y);
-    if (FETCH(bool, moves)) {
-        QCOMPARE(twLeft(&form), onPixel(left - (150 - x)));
-        QCOMPARE(twTop(&form), onPixel(top - (150 - y)));
-    } else {
-        QCOMPARE(twLeft(&form), left);
-        QCOMPARE(twTop(&form), top);
-    }
-    QCOMPARE(front.count(), FETCH(bool, front) ? 1 : 0);
-}
-
-void TestFormComment::dragWithTheMouse()
-{
-    CommentFixture f;
-    FormComment& form = f.shownComment();
     const QPoint start = form.pos();
+    QSignalSpy front(&form, &FormComment::cameToFront);
+    const auto buttons = Qt::MouseButtons(FETCH(int, buttons));
     sendMouse(form.Label1, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton, {10, 10});
-    // Half a pixel on a scaled screen is 7.5 twips: no drag yet.
-    sendMouse(form.Label1, QEvent::MouseMove, Qt::NoButton, Qt::LeftButton, {10.5, 10});
-    QCOMPARE(form.pos(), start);
-    sendMouse(form.Label1, QEvent::MouseMove, Qt::NoButton, Qt::LeftButton, {14, 7});
-    QCOMPARE(form.pos(), start + QPoint(4, -3));
-    // The label moved with the window; the pointer goes on from there.
-    sendMouse(form.Label1, QEvent::MouseMove, Qt::NoButton, Qt::LeftButton, {15, 10});
-    QCOMPARE(form.pos(), start + QPoint(9, -3));
+    for (const QPointF& at : FETCH(QList<QPointF>, moves))
+        sendMouse(form.Label1, QEvent::MouseMove, Qt::NoButton, buttons, at);
+    QCOMPARE(form.pos(), start + FETCH(QPoint, moved));
+    QCOMPARE(front.count(), FETCH(int, front));
 }
 
 void TestFormComment::clickHugsTheText()
@@ -238,17 +191,17 @@ void TestFormComment::clickHugsTheText()
 void TestFormComment::popupOptions()
 {
     CommentFixture f;
-    FormBase* settings = addFontAndColorWindow(f.forms);
+    f.forms.add(QStringLiteral("FormSetFontAndColor"),
+                [] { return new FormBase(QStringLiteral("FormSetFontAndColor")); });
+    FormBase* settings = f.forms.form(QStringLiteral("FormSetFontAndColor"));
     FormComment& form = f.shownComment();
     const QSize before = form.size();
     clickLabel(form.Label1, Qt::RightButton, {20, 10});
-    FormOmake& popup = f.omake();
+    auto& popup = *static_cast<FormOmake*>(f.forms.form(QStringLiteral("FormOmake")));
     QVERIFY(popup.isVisible());
     QCOMPARE(QPointF(twLeft(&popup), twTop(&popup)),
              QPointF(twLeft(&form) + 300, twTop(&form) + 150)); // at the pointer
     QCOMPARE(form.size(), before);                              // a right click doesn't hug
-    QCOMPARE(popup.Option1->text(), QStringLiteral("コメント消去"));
-    QCOMPARE(popup.Option2->text(), QStringLiteral("文字、背景色変更"));
     saveShot(&popup, QStringLiteral("FormOmake"));
 
     // Option2: the settings beside the popup, for the comment; the comment stays.

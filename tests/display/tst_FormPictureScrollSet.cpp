@@ -1,5 +1,5 @@
-// FormPictureScrollSet driven by its object names: the scale shows the
-// allowance, and the set button keeps it in PictureSizeAllowVal.dat.
+// FormPictureScrollSet: the scale shows the allowance, and the set button
+// keeps it in PictureSizeAllowVal.dat.
 #include "display/FormPictureScrollSet.h"
 #include "platform/Colors.h"
 #include "platform/Controls.h"
@@ -24,44 +24,10 @@ const QString kAllowanceFile = QStringLiteral("Lumentas/ForProgramRun_KDR/Pictur
 class TestFormPictureScrollSet : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void loadShowsTheAllowance_data();
-    void loadShowsTheAllowance();
     void commandWordSet_data();
     void commandWordSet();
     void commandEndUnloads();
 };
-
-void TestFormPictureScrollSet::loadShowsTheAllowance_data()
-{
-    QTest::addColumn<int>("allowance");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("some") << 35 << 35 << "35";
-    // The bar stands at 0 already: no change, and the label keeps its caption.
-    QTest::newRow("0 is no change") << 0 << 0 << "20";
-    QTest::newRow("off the scale is refused") << 150 << 0 << "20";
-}
-
-void TestFormPictureScrollSet::loadShowsTheAllowance()
-{
-    BasicsFixture f;
-    f.state.PictureSizeAllowVal = FETCH(int, allowance);
-    FormPictureScrollSet form(f.basics);
-    form.showForm();
-    auto* bar = form.findChild<QScrollBar*>("HScroll1");
-    auto* value = form.findChild<QLabel*>("LabelVal");
-    QVERIFY(bar && value);
-    QCOMPARE(bar->value(), FETCH(int, value));
-    QCOMPARE(value->text(), FETCH(QString, shown));
-    QCOMPARE(
-        (QStringList{form.findChild<QLabel*>("Label1")->text(),
-                     form.findChild<QLabel*>("Label4")->text(), form.CommandWordSet->text(),
-                     form.CommandEnd->text()}),
-        (QStringList{"かなり大きい画像のみ縮小", "画面より大きい画像はすぐ縮小", "設定", "終了"}));
-    QCOMPARE(f.state.PictureSizeAllowVal, FETCH(int, allowance)); // loading changes nothing
-    if (QByteArray(QTest::currentDataTag()) == "some")
-        saveShot(&form, QStringLiteral("FormPictureScrollSet"));
-}
 
 void TestFormPictureScrollSet::commandWordSet_data()
 {
@@ -73,9 +39,11 @@ void TestFormPictureScrollSet::commandWordSet_data()
     QTest::newRow("kept in the file") << 20 << 45 << true << QByteArray("45\r\n") << 45;
     QTest::newRow("no file, nothing written") << 20 << 45 << false << QByteArray() << 45;
     QTest::newRow("to the left end") << 60 << 0 << true << QByteArray("0\r\n") << 0;
-    // The bar never changed, so the label still reads its first "20": that
+    QTest::newRow("as loaded") << 35 << -1 << true << QByteArray("35\r\n") << 35;
+    // Loading 0 moves nothing, so the label still reads its first "20": that
     // is what goes to the file and what is read back.
     QTest::newRow("the label is what is kept") << 0 << -1 << true << QByteArray("20\r\n") << 20;
+    QTest::newRow("off the scale is refused") << 150 << -1 << true << QByteArray("20\r\n") << 20;
     QTest::newRow("without a file the bar's value") << 0 << -1 << false << QByteArray() << 0;
 }
 
@@ -87,6 +55,8 @@ void TestFormPictureScrollSet::commandWordSet()
     f.state.PictureSizeAllowVal = FETCH(int, loaded);
     FormPictureScrollSet form(f.basics);
     form.showForm();
+    QCOMPARE(f.state.PictureSizeAllowVal, FETCH(int, loaded)); // loading changes nothing
+    saveShot(&form, QStringLiteral("FormPictureScrollSet"));
     if (const int moved = FETCH(int, moved); moved >= 0)
         form.HScroll1->setValue(moved);
 

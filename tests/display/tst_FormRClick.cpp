@@ -1,6 +1,5 @@
-// The popups of the text pane (FormRClick4) and of a picture (FormRClick5)
-// driven by their object names: captions, the main window's links, the
-// outside programs and the file dialogs.
+// The popups of the text pane (FormRClick4) and of a picture (FormRClick5):
+// the main window's links, the outside programs and the file dialogs.
 #include "display/FormRClick4.h"
 #include "display/FormRClick5.h"
 #include "platform/Controls.h"
@@ -39,67 +38,35 @@ struct PopupFixture : BasicsFixture {
     {
         return name == "FormRClick4" ? static_cast<FormBase*>(&text) : &picture;
     }
-    // Shows the popup and clicks one of its buttons.
+    // Shows the popup where it is asked and clicks one of its buttons.
     void click(FormBase* form, const QString& button)
     {
         if (form == &text)
-            text.showAt(0, 0);
+            text.showAt(3000, 1500);
         else
-            picture.showAt(0, 0);
+            picture.showAt(3000, 1500);
+        QCOMPARE(QPointF(twLeft(form), twTop(form)), QPointF(3000, 1500));
         auto* control = form->findChild<QPushButton*>(button);
         QVERIFY2(control, qPrintable(button));
         QTest::mouseClick(control, Qt::LeftButton);
     }
 };
 
-// "name=caption" of every button, sorted by name.
-QStringList captions(const QWidget* form)
-{
-    QStringList texts;
-    for (const QPushButton* button : form->findChildren<QPushButton*>())
-        texts << button->objectName() + u'=' + button->text();
-    texts.sort();
-    return texts;
-}
-
 } // namespace
 
 class TestFormRClick : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void captionsAndPlace();
     void setFontOpensTheTextSettings();
     void smallAndBigSizeTheMainWindow_data();
     void smallAndBigSizeTheMainWindow();
-    void outsidePrograms_data();
-    void outsidePrograms();
+    void buttonsReachTheirActions_data();
+    void buttonsReachTheirActions();
     void toFileSavesTheText_data();
     void toFileSavesTheText();
-    void pictureActionsOfTheMainWindow_data();
-    void pictureActionsOfTheMainWindow();
     void saveCopiesThePicture_data();
     void saveCopiesThePicture();
-    void openShowsTheChosenFile();
 };
-
-void TestFormRClick::captionsAndPlace()
-{
-    PopupFixture f;
-    QCOMPARE(::captions(&f.text), (QStringList{"CommandBig=画面拡大", "CommandClose=",
-                                               "CommandOpenSee=すぐ見る", "CommandSetFont=ﾌｫﾝﾄ/ｶﾗｰ",
-                                               "CommandSmall=画面縮小", "CommandToFile=Save"}));
-    QCOMPARE(::captions(&f.picture),
-             (QStringList{"CommandClose=", "CommandDeleat=削除", "CommandOpenEdit=ｴﾃﾞｨﾀｰ",
-                          "CommandOpenSee=Open", "CommandRecover=復元", "CommandSave=Save",
-                          "CommandShowAutoRun=Auto"}));
-
-    f.picture.showAt(3000, 1500);
-    QCOMPARE(QPointF(twLeft(&f.picture), twTop(&f.picture)), QPointF(3000, 1500));
-    saveShot(&f.picture, QStringLiteral("FormRClick5"));
-    QTest::mouseClick(f.picture.findChild<QPushButton*>("CommandClose"), Qt::LeftButton);
-    QVERIFY(!f.picture.isVisible());
-    QVERIFY(!f.picture.isLoaded());
-}
 
 void TestFormRClick::setFontOpensTheTextSettings()
 {
@@ -107,13 +74,10 @@ void TestFormRClick::setFontOpensTheTextSettings()
     f.forms.add(QStringLiteral("FormSetFontAndColor"),
                 []() -> FormBase* { return new FormBase(QStringLiteral("FormSetFontAndColor")); });
     FormBase* settings = f.forms.form(QStringLiteral("FormSetFontAndColor"));
-    f.text.showAt(1500, 1500);
-    const float besideLeft = twLeft(&f.text) + twWidth(&f.text);
-    QTest::mouseClick(f.text.findChild<QPushButton*>("CommandSetFont"), Qt::LeftButton);
-    QVERIFY(!f.text.isVisible());
-    QVERIFY(settings->isVisible());
+    f.click(&f.text, QStringLiteral("CommandSetFont"));
+    QVERIFY(!f.text.isVisible() && settings->isVisible());
     QCOMPARE(settings->property("mode").toString(), QStringLiteral("TEXT"));
-    QCOMPARE(QPointF(twLeft(settings), twTop(settings)), QPointF(besideLeft, 1500));
+    QCOMPARE(QPointF(twLeft(settings), twTop(settings)), QPointF(3000 + twWidth(&f.text), 1500));
 }
 
 void TestFormRClick::smallAndBigSizeTheMainWindow_data()
@@ -139,14 +103,15 @@ void TestFormRClick::smallAndBigSizeTheMainWindow()
     QVERIFY(f.text.isVisible()); // stays for the next step
 }
 
-void TestFormRClick::outsidePrograms_data()
+void TestFormRClick::buttonsReachTheirActions_data()
 {
     QTest::addColumn<QString>("popup");
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("editor");
     QTest::addColumn<QString>("file");
     QTest::addColumn<bool>("starts");
-    QTest::addColumn<QStringList>("started"); // files opened and command lines
+    QTest::addColumn<QStringList>(
+        "started"); // files opened, command lines, the main window's calls
     QTest::addColumn<int>("beeps");
     const auto row = [](const char* name, const char* popup, const char* button, const char* editor,
                         const char* file, bool starts, const QStringList& started, int beeps) {
@@ -155,27 +120,50 @@ void TestFormRClick::outsidePrograms_data()
     };
     const char* see = "CommandOpenSee";
     const char* edit = "CommandOpenEdit";
+    const char* page = "C:\\pics\\a.jpg";
     row("text shown", "FormRClick4", see, "", "C:\\t\\a.txt", true, {"C:\\t\\a.txt"}, 0);
     row("viewer fails", "FormRClick4", see, "", "C:\\t\\a.txt", false, {"C:\\t\\a.txt"}, 1);
     row("no text", "FormRClick4", see, "", "", true, {}, 1);
-    row("editor and picture", "FormRClick5", edit, "Z:\\usr\\bin\\gimp", "C:\\pics\\a.jpg", true,
+    row("editor and picture", "FormRClick5", edit, "Z:\\usr\\bin\\gimp", page, true,
         {"Z:\\usr\\bin\\gimp C:\\pics\\a.jpg"}, 0);
     row("no page: the editor alone", "FormRClick5", edit, " Z:\\usr\\bin\\gimp ", "", true,
         {"Z:\\usr\\bin\\gimp"}, 0);
-    row("no editor set", "FormRClick5", edit, "", "C:\\pics\\a.jpg", true, {}, 1);
+    row("no editor set", "FormRClick5", edit, "", page, true, {}, 1);
+    row("Auto", "FormRClick5", "CommandShowAutoRun", "", page, true, {"auto"}, 0);
+    row("recover", "FormRClick5", "CommandRecover", "", page, true, {"recover"}, 0);
+    row("delete", "FormRClick5", "CommandDeleat", "", page, true, {"delete"}, 0);
+    row("open the chosen file", "FormRClick5", see, "", page, true, {"open C:\\keep\\c.png"}, 0);
+    row("close", "FormRClick5", "CommandClose", "", page, true, {}, 0);
 }
 
-void TestFormRClick::outsidePrograms()
+void TestFormRClick::buttonsReachTheirActions()
 {
     PopupFixture f;
     FormBase* popup = f.popup(FETCH(QString, popup));
     f.state.DirecData.PictureEditorPath = FETCH(QString, editor);
     f.pageFile = FETCH(QString, file);
     f.launcher.succeed = FETCH(bool, starts);
+    f.home.writeFile(QStringLiteral("keep/c.png"), "png");
+    f.ui.fileNames.enqueue(f.home.native(QStringLiteral("keep/c.png")));
+    QStringList called;
+    bool shownWhileCalled = false;
+    auto hook = [&](const QString& name) {
+        called << name;
+        shownWhileCalled |= popup->isVisible();
+    };
+    f.picture.openAutoPage = [&] { hook(QStringLiteral("auto")); };
+    f.picture.recover = [&] { hook(QStringLiteral("recover")); };
+    f.picture.deleteFile = [&] { hook(QStringLiteral("delete")); };
+    f.picture.open = [&](const QString& file) { hook(QStringLiteral("open ") + file); };
     f.click(popup, FETCH(QString, button));
-    QCOMPARE(f.launcher.opened + f.launcher.commandLines, FETCH(QStringList, started));
+    QCOMPARE(f.launcher.opened + f.launcher.commandLines + called, FETCH(QStringList, started));
     QCOMPARE(f.ui.beeps, FETCH(int, beeps));
-    QVERIFY(!popup->isVisible());
+    QVERIFY(!popup->isVisible() && !popup->isLoaded());
+    QVERIFY(!shownWhileCalled); // the popup steps aside first
+    // Only Open asks, where the page's file is.
+    QCOMPARE(f.ui.dialogStarts, f.ui.fileNames.isEmpty()
+                                    ? QStringList{f.home.native(QStringLiteral("pics"))}
+                                    : QStringList{});
 }
 
 void TestFormRClick::toFileSavesTheText_data()
@@ -213,35 +201,6 @@ void TestFormRClick::toFileSavesTheText()
     QVERIFY(!f.text.isVisible());
 }
 
-void TestFormRClick::pictureActionsOfTheMainWindow_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QStringList>("called");
-    QTest::newRow("Auto") << "CommandShowAutoRun" << QStringList{"auto"};
-    QTest::newRow("recover") << "CommandRecover" << QStringList{"recover"};
-    QTest::newRow("delete") << "CommandDeleat" << QStringList{"delete"};
-}
-
-void TestFormRClick::pictureActionsOfTheMainWindow()
-{
-    PopupFixture f;
-    QStringList called;
-    bool shownWhileCalled = true;
-    auto hook = [&](const char* name) {
-        return [&, name] {
-            called << QString::fromLatin1(name);
-            shownWhileCalled = f.picture.isVisible();
-        };
-    };
-    f.picture.openAutoPage = hook("auto");
-    f.picture.recover = hook("recover");
-    f.picture.deleteFile = hook("delete");
-    f.click(&f.picture, FETCH(QString, button));
-    QCOMPARE(called, FETCH(QStringList, called));
-    QVERIFY(!f.picture.isVisible());
-    QVERIFY(!shownWhileCalled || called.isEmpty()); // the popup stepped aside first
-}
-
 void TestFormRClick::saveCopiesThePicture_data()
 {
     QTest::addColumn<QString>("file");
@@ -273,19 +232,6 @@ void TestFormRClick::saveCopiesThePicture()
              QByteArray(asked && !answer.isEmpty() ? "JPEG bytes of a" : "older"));
     QCOMPARE(f.ui.beeps, asked ? 0 : 1);
     QCOMPARE(f.home.fs.curDir(), FETCH(QString, folder));
-}
-
-void TestFormRClick::openShowsTheChosenFile()
-{
-    PopupFixture f;
-    f.home.writeFile(QStringLiteral("keep/c.png"), "png");
-    QStringList opened;
-    f.picture.open = [&](const QString& file) { opened << file; };
-    f.ui.fileNames.enqueue(f.home.native(QStringLiteral("keep/c.png")));
-    f.click(&f.picture, QStringLiteral("CommandOpenSee"));
-    QCOMPARE(opened, QStringList{"C:\\keep\\c.png"});
-    QCOMPARE(f.ui.dialogStarts, QStringList{f.home.native(QStringLiteral("pics"))});
-    QVERIFY(!f.picture.isVisible());
 }
 
 QTEST_MAIN(TestFormRClick)

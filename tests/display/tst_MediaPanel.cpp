@@ -1,11 +1,9 @@
-// MediaPanel on the recording engine: the control's operations reach the
-// player, the end is passed on, DisplaySize 3 takes the video's size with
-// the transport bar, the full-screen setting follows the play.
+// MediaPanel on the recording engine.
 #include "display/MediaPanel.h"
 #include "support/FakeMedia.h"
+#include "support/Fetch.h"
 #include "support/Shots.h"
 
-#include <QLabel>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
@@ -36,84 +34,64 @@ struct Panel {
 class TestMediaPanel : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void operationsReachTheEngine();
-    void buttonsOfTheTransport();
-    void endIsPassedOn();
-    void displaySizeThreeTakesTheVideoSize_data();
-    void displaySizeThreeTakesTheVideoSize();
-    void displaySizeDefaultKeepsTheOwnersSize();
+    void operationsAndButtonsReachTheEngine();
+    void displaySize_data();
+    void displaySize();
     void lateVideoSizeIsToldAfterSizing();
     void fullScreenFollowsThePlay();
 };
 
-void TestMediaPanel::operationsReachTheEngine()
-{
-    Panel p(true);
-    p.panel->setAutoStart(false);
-    p.panel->Open(QStringLiteral("/shows/a.avi"));
-    p.panel->Play();
-    p.panel->Stop();
-    QCOMPARE(p.engine->calls, (QStringList{"open /shows/a.avi", "play", "stop"}));
-    QCOMPARE(p.engine->autoStart, false);
-    QVERIFY(!p.panel->isPlaying());
-}
-
-void TestMediaPanel::buttonsOfTheTransport()
-{
-    Panel p(false);
-    p.panel->Open(QStringLiteral("/shows/a.mid"));
-    QTest::mouseClick(p.panel->findChild<QToolButton*>("StopButton"), Qt::LeftButton);
-    QTest::mouseClick(p.panel->findChild<QToolButton*>("PlayButton"), Qt::LeftButton);
-    QCOMPARE(p.engine->calls, (QStringList{"open /shows/a.mid", "stop", "play"}));
-    QVERIFY(p.panel->isPlaying());
-}
-
-void TestMediaPanel::endIsPassedOn()
+void TestMediaPanel::operationsAndButtonsReachTheEngine()
 {
     Panel p(false);
     QSignalSpy ended(p.panel, &MediaPanel::ended);
+    p.panel->setAutoStart(false);
     p.panel->Open(QStringLiteral("/shows/a.mid"));
+    p.panel->Play();
+    p.panel->Stop();
+    QVERIFY(!p.panel->isPlaying());
+    QTest::mouseClick(p.panel->findChild<QToolButton*>("PlayButton"), Qt::LeftButton);
+    QVERIFY(p.panel->isPlaying());
+    QTest::mouseClick(p.panel->findChild<QToolButton*>("StopButton"), Qt::LeftButton);
+    QCOMPARE(p.engine->calls, (QStringList{"open /shows/a.mid", "play", "stop", "play", "stop"}));
+    QCOMPARE(p.engine->autoStart, false);
+    p.panel->Play();
     QCOMPARE(ended.count(), 0);
     p.engine->finish();
     QCOMPARE(ended.count(), 1);
     QVERIFY(!p.panel->isPlaying());
 }
 
-void TestMediaPanel::displaySizeThreeTakesTheVideoSize_data()
+void TestMediaPanel::displaySize_data()
 {
     QTest::addColumn<QSize>("video");
-    QTest::addColumn<QSize>("panel");
-    QTest::newRow("320 by 240") << QSize(320, 240) << QSize(320, 240 + 28);
-    QTest::newRow("narrower than the transport") << QSize(96, 72) << QSize(160, 72 + 28);
+    QTest::addColumn<int>("before");       // DisplaySize when the file opens
+    QTest::addColumn<QList<int>>("after"); // and the ones set after
+    QTest::addColumn<QSize>("panel");      // the owner made it 100 by 100
+    QTest::newRow("3: 320 by 240") << QSize(320, 240) << 3 << QList<int>{} << QSize(320, 240 + 28);
+    QTest::newRow("3: narrower than the transport")
+        << QSize(96, 72) << 3 << QList<int>{} << QSize(160, 72 + 28);
+    QTest::newRow("0 keeps the owner's size")
+        << QSize(320, 240) << 0 << QList<int>{} << QSize(100, 100);
+    QTest::newRow("back to 0 keeps what 3 took")
+        << QSize(320, 240) << 0 << QList<int>{3, 0} << QSize(320, 268);
 }
 
-void TestMediaPanel::displaySizeThreeTakesTheVideoSize()
+void TestMediaPanel::displaySize()
 {
-    QFETCH(QSize, video);
     QFETCH(QSize, panel);
-    Panel p(true, video);
+    Panel p(true, FETCH(QSize, video));
     p.panel->resize(100, 100);
-    p.panel->setDisplaySize(3);
+    p.panel->setDisplaySize(FETCH(int, before));
     p.panel->Open(QStringLiteral("/shows/a.avi"));
+    for (int size : FETCH(QList<int>, after))
+        p.panel->setDisplaySize(size);
     QCOMPARE(p.panel->size(), panel);
     QCOMPARE(p.panel->Height(), float(panel.height() * 15));
     // The picture fills the panel above the bar.
     QCOMPARE(p.engine->videoSurface()->parentWidget(), p.panel);
-    QTRY_COMPARE(p.engine->videoSurface()->size(), QSize(panel.width(), video.height()));
-    saveShot(p.panel, QStringLiteral("MediaPlayer1_DisplaySize3"));
-}
-
-void TestMediaPanel::displaySizeDefaultKeepsTheOwnersSize()
-{
-    Panel p(true, QSize(320, 240));
-    p.panel->resize(500, 400);
-    p.panel->Open(QStringLiteral("/shows/a.avi"));
-    QCOMPARE(p.panel->size(), QSize(500, 400));
-    // Back to 0 after 3: the size stays as it was taken.
-    p.panel->setDisplaySize(3);
-    QCOMPARE(p.panel->size(), QSize(320, 268));
-    p.panel->setDisplaySize(0);
-    QCOMPARE(p.panel->size(), QSize(320, 268));
+    QTRY_COMPARE(p.engine->videoSurface()->size(), panel - QSize(0, 28));
+    saveShot(p.panel, QStringLiteral("MediaPlayer1_DisplaySize"));
 }
 
 void TestMediaPanel::lateVideoSizeIsToldAfterSizing()
