@@ -1,139 +1,129 @@
-// Existence tests and the file changes of the basic procedures, on a real
-// temporary home folder as drive C:.
+// The basic procedures on a real temporary home as drive C:: existence tests,
+// file changes, waits, messages and pictures.
 #include "support/BasicsFixture.h"
 
 #include "support/Fetch.h"
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
 #include <QRegularExpression>
 
 #include <QTest>
-
-#include <sys/stat.h>
 
 using namespace lumen;
 using namespace lumen::test;
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// The files under the home, by relative path, sorted.
+QStringList filesUnder(const TestHome& home)
+{
+    QStringList files;
+    QDirIterator it(home.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext())
+        files << QDir(home.path()).relativeFilePath(it.next());
+    files.sort();
+    return files;
+}
+
+} // namespace
+
 class TestBasicFiles : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void fileExists_data();
-    void fileExists();
-    void fileExistsTrimsTheVariable();
-    void folderExists_data();
-    void folderExists();
-    void fileSizeInMB_data();
-    void fileSizeInMB();
-    void copyByPair_data();
-    void copyByPair();
+    void exists_data();
+    void exists();
+    void transfer_data();
+    void transfer();
     void copyAutoByDate();
-    void wildcardsRefused_data();
-    void wildcardsRefused();
-    void moveByPair();
     void makeFolderTreeChangesFolder();
     void deleteFileForced();
     void deleteFileConfirmed_data();
     void deleteFileConfirmed();
     void deleteFolderTree();
-    void deleteFolderTreeRefusesHome();
-    void writeTextToFile_data();
     void writeTextToFile();
+    void waitMilliseconds();
+    void waitForFolderGoneAsksEveryHalfMinute_data();
+    void waitForFolderGoneAsksEveryHalfMinute();
+    void floatingMessage();
+    void padToWidth();
+    void movieWrapperPage();
+    void browseForFolder();
+    void picturesRoundTrip_data();
+    void picturesRoundTrip();
 };
 
-void TestBasicFiles::fileExists_data()
+void TestBasicFiles::exists_data()
 {
+    QTest::addColumn<bool>("folder"); // FolderExists, else FileExists
     QTest::addColumn<QString>("path");
     QTest::addColumn<bool>("exists");
-    QTest::newRow("blanks and line end around") << "  C:\\pics\\a.jpg \r\n" << true;
-    QTest::newRow("missing") << "C:\\pics\\b.jpg" << false;
-    QTest::newRow("hidden name") << "C:\\pics\\.secret.jpg" << false;
-    QTest::newRow("wildcard that matches") << "C:\\pics\\*.jpg" << true;
-    QTest::newRow("any address") << "://" << true;
+    QTest::newRow("file: blanks and line end around") << false << "  C:\\pics\\a.jpg \r\n" << true;
+    QTest::newRow("file: missing") << false << "C:\\pics\\b.jpg" << false;
+    QTest::newRow("file: hidden name") << false << "C:\\pics\\.secret.jpg" << false;
+    QTest::newRow("file: wildcard that matches") << false << "C:\\pics\\*.jpg" << true;
+    QTest::newRow("file: any address") << false << "://" << true;
+    QTest::newRow("folder: blanks and line end around") << true << " C:\\pics \r\n" << true;
+    QTest::newRow("folder: no colon, though it exists") << true << "pics" << false;
+    QTest::newRow("folder: data folder, even missing") << true << "C:\\Lumentas" << true;
+    QTest::newRow("folder: root") << true << "C:\\" << true;
 }
 
-void TestBasicFiles::fileExists()
+void TestBasicFiles::exists()
 {
     BasicsFixture f;
     f.home.writeFile("pics/a.jpg", "x");
     f.home.writeFile("pics/.secret.jpg", "x");
-    QFETCH(QString, path);
-    QCOMPARE(f.basics.FileExists(std::as_const(path)), FETCH(bool, exists));
-}
-
-void TestBasicFiles::fileExistsTrimsTheVariable()
-{
-    BasicsFixture f;
-    QString path = QStringLiteral(" C:\\x.jpg\r\n");
-    f.basics.FileExists(path);
-    QCOMPARE(path, QStringLiteral("C:\\x.jpg"));
-}
-
-void TestBasicFiles::folderExists_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("exists");
-    QTest::newRow("no colon, though it exists") << "data" << false;
-    QTest::newRow("data folder, even missing") << "C:\\Lumentas" << true;
-    QTest::newRow("root") << "C:\\" << true;
-}
-
-void TestBasicFiles::folderExists()
-{
-    BasicsFixture f;
-    f.home.writeFile("data/f.txt", "x");
     QDir(f.home.native("Lumentas")).removeRecursively();
+    QFETCH(bool, folder);
     QFETCH(QString, path);
-    QCOMPARE(f.basics.FolderExists(std::as_const(path)), FETCH(bool, exists));
-}
-
-void TestBasicFiles::fileSizeInMB_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("size");
-    QTest::newRow("1,500,000 bytes") << u"C:\\big.bin"_s << u"1.500MB"_s;
-    QTest::newRow("missing") << u"C:\\none.bin"_s << u"0.000MB"_s;
-    QTest::newRow("no colon") << u"big.bin"_s << QString();
-}
-
-void TestBasicFiles::fileSizeInMB()
-{
-    BasicsFixture f;
-    f.home.writeFile("big.bin", QByteArray(1500000, 'x'));
-    QFETCH(QString, path);
-    QCOMPARE(f.basics.FileSizeInMB(path), FETCH(QString, size));
-}
-
-void TestBasicFiles::copyByPair_data()
-{
-    QTest::addColumn<QString>("pair");
-    QTest::addColumn<QString>("target"); // relative native path that must hold "new"
-    QTest::addColumn<QStringList>("captions");
-    const auto row = [](const char* tag, const QString& pair, const QString& target,
-                        const QStringList& captions) {
-        QTest::newRow(tag) << pair << target << captions;
+    const auto test = [&](auto&& p) {
+        return folder ? f.basics.FolderExists(p) : f.basics.FileExists(p);
     };
-    row("into a new folder tree", "C:\\src.jpg,C:\\out\\deep\\dst.jpg", "out/deep/dst.jpg",
-        QStringList{"ファイル複製中 0.000MB", ""});
-    row("missing source: nothing but a refresh", "C:\\none.jpg,C:\\x.jpg", "", QStringList{""});
+    QCOMPARE(test(std::as_const(path)), FETCH(bool, exists));
+    QString variable = path; // the caller's variable comes back trimmed
+    test(variable);
+    QCOMPARE(variable, path.trimmed());
 }
 
-void TestBasicFiles::copyByPair()
+void TestBasicFiles::transfer_data()
+{
+    QTest::addColumn<bool>("move");
+    QTest::addColumn<QString>("pair");
+    QTest::addColumn<QStringList>("files"); // under the home afterwards, all like a.jpg
+    QTest::addColumn<QStringList>("captions");
+    QTest::addColumn<QList<qint64>>("waits");
+    const auto row = [](const char* tag, bool move, const QString& pair, const QStringList& files,
+                        const QStringList& captions, const QList<qint64>& waits = {}) {
+        QTest::newRow(tag) << move << pair << files << captions << waits;
+    };
+    row("copy into a new folder tree", false, "C:\\a.jpg,C:\\out\\deep\\b.jpg",
+        {"a.jpg", "out/deep/b.jpg"}, {"ファイル複製中 1.500MB", ""}, {10});
+    row("copy, missing source", false, "C:\\none.jpg,C:\\x.jpg", {"a.jpg"}, {""});
+    row("copy, wildcard", false, "C:\\a.jpg,C:\\b?.jpg", {"a.jpg"},
+        {"[*]と[?]は使うことができません。"});
+    row("move, wildcard", true, "C:\\a.jpg,C:\\b?.jpg", {"a.jpg"},
+        {"[*] と [?] は使うことができません。"});
+    // The folder is made and 100 ms pass, then the 10 ms readiness pause.
+    row("move into a new folder", true, "C:\\a.jpg,C:\\new\\b.jpg", {"new/b.jpg"}, {}, {100, 10});
+}
+
+void TestBasicFiles::transfer()
 {
     BasicsFixture f;
-    f.home.writeFile("src.jpg", "new");
-    f.home.writeFile("old.jpg", "old");
+    const QByteArray bytes(1500000, 'x');
+    f.home.writeFile("a.jpg", bytes);
     QFETCH(QString, pair);
-    QFETCH(QString, target);
-    f.basics.CopyFileByPair(pair);
-    if (!target.isEmpty()) {
-        QCOMPARE(f.home.readFile(target), QByteArray("new"));
-        QCOMPARE(f.home.readFile("src.jpg"), QByteArray("new"));
-    } else {
-        QVERIFY(!f.home.exists("x.jpg"));
-    }
+    FETCH(bool, move) ? f.basics.MoveFileByPair(pair) : f.basics.CopyFileByPair(pair);
+    const QStringList files = filesUnder(f.home);
+    QCOMPARE(files, FETCH(QStringList, files));
+    for (const QString& file : files)
+        QCOMPARE(f.home.readFile(file), bytes);
     QCOMPARE(f.host.captions, FETCH(QStringList, captions));
     QCOMPARE(f.host.refreshes, 1);
+    QCOMPARE(f.clock.waits, FETCH(QList<qint64>, waits));
 }
 
 void TestBasicFiles::copyAutoByDate()
@@ -147,38 +137,6 @@ void TestBasicFiles::copyAutoByDate()
                  .match(made.first())
                  .hasMatch(),
              qPrintable(made.first()));
-}
-
-void TestBasicFiles::wildcardsRefused_data()
-{
-    QTest::addColumn<bool>("move");
-    QTest::addColumn<QString>("caption");
-    QTest::newRow("move") << true << "[*] と [?] は使うことができません。";
-    QTest::newRow("copy") << false << "[*]と[?]は使うことができません。";
-}
-
-void TestBasicFiles::wildcardsRefused()
-{
-    BasicsFixture f;
-    f.home.writeFile("a.jpg", "x");
-    QFETCH(bool, move);
-    const QString pair = QStringLiteral("C:\\a.jpg,C:\\b?.jpg");
-    move ? f.basics.MoveFileByPair(pair) : f.basics.CopyFileByPair(pair);
-    QCOMPARE(f.host.captions.first(), FETCH(QString, caption));
-    QCOMPARE(f.host.refreshes, 1);
-    QVERIFY(f.home.exists("a.jpg"));
-    QCOMPARE(QDir(f.home.path()).entryList(QDir::Files).size(), 1);
-}
-
-void TestBasicFiles::moveByPair()
-{
-    BasicsFixture f;
-    f.home.writeFile("a.jpg", "x");
-    f.basics.MoveFileByPair(QStringLiteral("C:\\a.jpg,C:\\new\\b.jpg"));
-    QVERIFY(!f.home.exists("a.jpg"));
-    QCOMPARE(f.home.readFile("new/b.jpg"), QByteArray("x"));
-    // The folder was made and 100 ms passed, then the 10 ms readiness pause.
-    QCOMPARE(f.clock.waits, (QList<qint64>{100, 10}));
 }
 
 void TestBasicFiles::makeFolderTreeChangesFolder()
@@ -241,38 +199,134 @@ void TestBasicFiles::deleteFolderTree()
 {
     BasicsFixture f;
     f.home.writeFile("site/a/b.html", "x");
-    // Standing in the folder: the procedure steps out first.
-    f.home.fs.chDir(QStringLiteral("C:\\site"));
+    f.home.writeFile("keep.txt", "x");
+    f.home.fs.chDir(QStringLiteral("C:\\site")); // standing in it: the procedure steps out first
     f.basics.DeleteFolderTree(QStringLiteral("C:\\site"));
     QVERIFY(!f.home.exists("site"));
     QCOMPARE(f.host.captions, (QStringList{"フォルダー削除中 ", ""}));
     QCOMPARE(f.home.fs.curDir(), QStringLiteral("C:\\"));
     QCOMPARE(f.clock.waits.mid(0, 3), (QList<qint64>{100, 300, 10}));
-}
 
-void TestBasicFiles::deleteFolderTreeRefusesHome()
-{
-    BasicsFixture f;
-    f.home.writeFile("keep.txt", "x");
-    f.basics.DeleteFolderTree(QStringLiteral("C:\\"));
+    f.basics.DeleteFolderTree(QStringLiteral("C:\\")); // never the home
     QVERIFY(f.home.exists("keep.txt"));
     QCOMPARE(f.host.captions.last(), QStringLiteral("Folder Not Deleated"));
-}
-
-void TestBasicFiles::writeTextToFile_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("Shift-JIS") << "ｺﾒﾝﾄ～" << QByteArray("\xBA\xD2\xDD\xC4\x81\x60\r\n");
-    QTest::newRow("empty") << "" << QByteArray("\r\n");
 }
 
 void TestBasicFiles::writeTextToFile()
 {
     BasicsFixture f;
     f.home.writeFile("out.txt", "an older and longer text");
-    f.basics.WriteTextToFile(FETCH(QString, text), QStringLiteral("C:\\out.txt"));
-    QCOMPARE(f.home.readFile("out.txt"), FETCH(QByteArray, bytes));
+    f.basics.WriteTextToFile(QStringLiteral("ｺﾒﾝﾄ～"), QStringLiteral("C:\\out.txt"));
+    QCOMPARE(f.home.readFile("out.txt"), QByteArray("\xBA\xD2\xDD\xC4\x81\x60\r\n"));
+    f.basics.WriteTextToFile(QString(), QStringLiteral("C:\\out.txt"));
+    QCOMPARE(f.home.readFile("out.txt"), QByteArray("\r\n"));
+}
+
+void TestBasicFiles::waitMilliseconds()
+{
+    BasicsFixture f;
+    f.basics.WaitMilliseconds(0.5); // a fraction rounds up to the next tick
+    QCOMPARE(f.clock.now, qint64(1));
+    f.basics.WaitMilliseconds(-5.0);
+    QCOMPARE(f.clock.now, qint64(1));
+}
+
+void TestBasicFiles::waitForFolderGoneAsksEveryHalfMinute_data()
+{
+    QTest::addColumn<QList<int>>("answers");
+    QTest::newRow("No at once") << QList<int>{kAnswerNo};
+    QTest::newRow("Yes, then No") << QList<int>{kAnswerYes, kAnswerNo};
+}
+
+void TestBasicFiles::waitForFolderGoneAsksEveryHalfMinute()
+{
+    BasicsFixture f;
+    f.home.makeFolder("stuck");
+    QFETCH(QList<int>, answers);
+    for (int answer : answers)
+        f.ui.answers.enqueue(answer);
+    f.basics.WaitForFolderGone(QStringLiteral("C:\\stuck"));
+    const QString question = u"フォルダーの削除を待って30秒経過しました。継続しますか？"_s;
+    QCOMPARE(f.ui.questions, QStringList(answers.size(), question));
+    QCOMPARE(f.clock.now, qint64(30000) * answers.size());
+}
+
+void TestBasicFiles::floatingMessage()
+{
+    // Quiet in Auto Page, without counting; then the odd calls show, each for
+    // 1000 ms, and the message is down again.
+    BasicsFixture f;
+    f.state.AutoPageOn = true;
+    f.basics.ShowFloatingMessage(0, 0, QStringLiteral("auto"));
+    f.state.AutoPageOn = false;
+    for (int i = 1; i <= 5; ++i)
+        f.basics.ShowFloatingMessage(100 * i, 50, QStringLiteral("hint %1").arg(i));
+    QCOMPARE(f.ui.messages.size(), 3);
+    QCOMPARE(f.ui.messages[0].text, QStringLiteral("hint 1"));
+    QCOMPARE(f.ui.messages[1].text, QStringLiteral("hint 3"));
+    QCOMPARE(f.ui.messages[1].left, 300);
+    QCOMPARE(f.clock.waits, (QList<qint64>{1000, 1000, 1000}));
+    QVERIFY(!f.ui.messageShown);
+}
+
+void TestBasicFiles::padToWidth()
+{
+    BasicsFixture f;
+    QCOMPARE(f.basics.PadToWidth(QStringLiteral("abcde"), 5), QStringLiteral("abcde"));
+    QVERIFY(f.ui.boxes.isEmpty());
+    QCOMPARE(f.basics.PadToWidth(QStringLiteral("abcdef"), 5), QString());
+    QCOMPARE(f.ui.boxes, QStringList{" Line text is bigger than you want"});
+}
+
+void TestBasicFiles::movieWrapperPage()
+{
+    BasicsFixture f;
+    f.basics.MakeMovieWrapperHtml(QStringLiteral("C:\\movies\\trip.mov"),
+                                  QStringLiteral("C:\\Lumentas\\ForProgramRun_KDR\\TempHTML.HTML"));
+    const QByteArray expected =
+        "<HTML>\r\n<HEAD>\r\n<TITLE></TITLE>\r\n</HEAD>\r\n<BODY BGCOLOR=#000048>\r\n"
+        "<BODY TOPMARGIN=0 MARGINHEIGHT=0 LEFTMARGIN=0 MARGINWIDTH=0 scroll=\"no\">\r\n"
+        "<OBJECT CLASSID=\"clsid:02BF25D5-8C17-4B23-BC80-D3488ABDDC6B\" WIDTH=100% HEIGHT=100% "
+        "CODEBASE=\"http://www.apple.com/qtactivex/qtplugin.lzh\" scale=\"tofit\">\r\n"
+        "<PARAM NAME=\"BgColor\" VALUE=\"#000048\">\r\n"
+        "<param name=\"SRC\" value=C:\\movies\\trip.mov>\r\n"
+        "<PARAM name=\"AUTOPLAY\" VALUE=\"true\">\r\n<PARAM name=\"CONTROLLER\" VALUE=\"true\">\r\n"
+        "</OBJECT>\r\n</BODY BGCOLOR>\r\n</BODY>\r\n</HTML>\r\n";
+    QCOMPARE(f.home.readFile("Lumentas/ForProgramRun_KDR/TempHTML.HTML"), expected);
+}
+
+void TestBasicFiles::browseForFolder()
+{
+    BasicsFixture f;
+    f.home.makeFolder("chosen/inner");
+    f.ui.folders.enqueue(f.home.native("chosen/inner/"));
+    QString title = QStringLiteral("フォルダー");
+    QCOMPARE(f.basics.BrowseForFolder(title), QStringLiteral("C:\\chosen\\inner"));
+    QCOMPARE(f.home.fs.curDir().toUpper(), QStringLiteral("C:\\CHOSEN\\INNER"));
+    QCOMPARE(f.basics.BrowseForFolder(title), QString()); // cancelled
+}
+
+void TestBasicFiles::picturesRoundTrip_data()
+{
+    QTest::addColumn<bool>("png");
+    QTest::newRow("PNG") << true;
+    QTest::newRow("JPEG") << false;
+}
+
+void TestBasicFiles::picturesRoundTrip()
+{
+    BasicsFixture f;
+    QImage picture(40, 30, QImage::Format_RGB32);
+    picture.fill(QColor(200, 40, 40));
+    QFETCH(bool, png);
+    const QString path = png ? QStringLiteral("C:\\p.png") : QStringLiteral("C:\\p.jpg");
+    QVERIFY(png ? f.basics.SavePictureAsPNG(picture, path)
+                : f.basics.SavePictureAsJPG(picture, path));
+    QCOMPARE(f.clock.waits, QList<qint64>{10}); // the readiness pause
+    const QImage back = f.basics.LoadPictureByPNGObject(path);
+    QCOMPARE(back.size(), picture.size());
+    QVERIFY(qAbs(back.pixelColor(20, 15).red() - 200) < 8);
+    QVERIFY(f.basics.LoadPictureByPNGObject(QStringLiteral("C:\\none.png")).isNull());
 }
 
 QTEST_MAIN(TestBasicFiles)

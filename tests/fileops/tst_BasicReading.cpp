@@ -1,4 +1,4 @@
-// ReadTextOfFile and CleanListFile: their texts, limits, progress and stop.
+// Reading lists: ReadTextOfFile, CleanListFile and the drive marks of their lines.
 #include "support/BasicsFixture.h"
 
 #include "support/Fetch.h"
@@ -25,138 +25,164 @@ const QString kList = QStringLiteral("C:\\list.lst");
 class TestBasicReading : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void readText_data();
-    void readText();
-    void readMissingFile();
-    void readTooManyLines_data();
-    void readTooManyLines();
+    void read_data();
+    void read();
     void progressWindow();
-    void stopWhileReading();
     void clean_data();
     void clean();
-    void cleanMissingFile();
+    void resolve_data();
+    void resolve();
+    void askedOnceForAList();
+    void programFolderWithoutDrive();
 };
 
-void TestBasicReading::readText_data()
+void TestBasicReading::read_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("bytes"); // null: no file
     QTest::addColumn<QString>("text");
-    const auto row = [](const char* tag, const QByteArray& bytes, const QString& text) {
-        QTest::newRow(tag) << bytes << text;
+    QTest::addColumn<QStringList>("stopEvents");
+    QTest::addColumn<QString>("box"); // "" when none, else one beep
+    const auto row = [](const char* tag, const QByteArray& bytes, const QString& text,
+                        const QStringList& events = {}, const QString& box = {}) {
+        QTest::newRow(tag) << bytes << text << events << box;
     };
-    row("last CR LF cut", QByteArray("a\r\nb\r\n"), "a\r\nb");
-    row("LF lines", QByteArray("a\nb\n"), "a\r\nb");
-    row("CR lines", QByteArray("a\rb"), "a\r\nb");
-    row("invalid bytes", QByteArray("a\xFF\r\n\x81"), "a\uFFFD\r\n\uFFFD");
+    const auto lines = [](int n) { return QString::fromLatin1(numberedLines(n).chopped(2)); };
+    row("last CR LF cut", "a\r\nb\r\n", "a\r\nb");
+    row("LF lines", "a\nb\n", "a\r\nb");
+    row("CR lines", "a\rb", "a\r\nb");
+    row("invalid bytes", "a\xFF\r\n\x81", "a\uFFFD\r\n\uFFFD");
+    row("missing", QByteArray(), "", {"unload"}, "ファイルが見つかりません。");
+    row("999: no window", numberedLines(999), lines(999));
+    row("35000 fit", numberedLines(35000), lines(35000), {"show"});
+    row("35001 overrun", numberedLines(35001), "", {"show", "unload"},
+        "インデックスが有効範囲にありません。");
 }
 
-void TestBasicReading::readText()
+void TestBasicReading::read()
 {
     BasicsFixture f;
-    f.home.writeFile("list.lst", FETCH(QByteArray, bytes));
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, box);
+    if (!bytes.isNull())
+        f.home.writeFile("list.lst", bytes);
     f.state.StopRequested = true; // cleared by the reader
     QCOMPARE(f.basics.ReadTextOfFile(kList), FETCH(QString, text));
     QVERIFY(!f.state.StopRequested);
-    QVERIFY(f.ui.boxes.isEmpty());
-    QVERIFY(f.host.stopEvents.isEmpty());
-}
-
-void TestBasicReading::readMissingFile()
-{
-    BasicsFixture f;
-    QCOMPARE(f.basics.ReadTextOfFile(QStringLiteral("C:\\none.lst")), QString());
-    QCOMPARE(f.ui.beeps, 1);
-    QCOMPARE(f.ui.boxes, QStringList{"ファイルが見つかりません。"});
-    QCOMPARE(f.host.stopEvents, QStringList{"unload"});
-}
-
-void TestBasicReading::readTooManyLines_data()
-{
-    QTest::addColumn<int>("lines");
-    QTest::addColumn<bool>("read");
-    QTest::newRow("35,000 fit the chunks") << 35000 << true;
-    QTest::newRow("35,001 overrun them") << 35001 << false;
-}
-
-void TestBasicReading::readTooManyLines()
-{
-    BasicsFixture f;
-    QFETCH(int, lines);
-    f.home.writeFile("list.lst", numberedLines(lines));
-    const QString text = f.basics.ReadTextOfFile(kList);
-    if (FETCH(bool, read)) {
-        QVERIFY(text.endsWith(QStringLiteral("line35000")));
-        QVERIFY(f.ui.boxes.isEmpty());
-    } else {
-        QCOMPARE(text, QString());
-        QCOMPARE(f.ui.boxes, QStringList{"インデックスが有効範囲にありません。"});
-        QCOMPARE(f.ui.beeps, 1);
-        QCOMPARE(f.host.stopEvents.last(), QStringLiteral("unload"));
-    }
+    QCOMPARE(f.ui.boxes, box.isEmpty() ? QStringList() : QStringList{box});
+    QCOMPARE(f.ui.beeps, box.isEmpty() ? 0 : 1);
+    QCOMPARE(f.host.stopEvents, FETCH(QStringList, stopEvents));
 }
 
 void TestBasicReading::progressWindow()
 {
+    // The line every 50 lines from the 1000th, then the joined count.
     BasicsFixture f;
     f.home.writeFile("list.lst", numberedLines(1100));
     f.basics.ReadTextOfFile(kList);
-    // Shown at the 1000th line and left standing; the line every 50 lines,
-    // then the joined count.
-    QCOMPARE(f.host.stopEvents, QStringList{"show"});
     QCOMPARE(f.host.stopTexts.mid(0, 3), (QStringList{"line1000", "line1050", "line1100"}));
     QCOMPARE(f.host.stopTexts.last(), QStringLiteral("1150"));
-
-    BasicsFixture small;
-    small.home.writeFile("list.lst", numberedLines(999));
-    small.basics.ReadTextOfFile(kList);
-    QVERIFY(small.host.stopEvents.isEmpty());
-}
-
-void TestBasicReading::stopWhileReading()
-{
-    BasicsFixture f;
-    f.home.writeFile("list.lst", numberedLines(2000));
-    f.clock.onDoEvents = [&f] {
-        if (f.clock.doEventsCount == 30)  // at line 1500
-            f.state.StopRequested = true; // LabelStop pressed
-    };
-    QCOMPARE(f.basics.ReadTextOfFile(kList), QString());
-    QCOMPARE(f.host.stopEvents, (QStringList{"show", "unload"}));
-    QVERIFY(f.ui.boxes.isEmpty());
 }
 
 void TestBasicReading::clean_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("bytes"); // null: no file
     QTest::addColumn<int>("count");
-    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<QByteArray>("after"); // null: still no file
     const auto row = [](const char* tag, const QByteArray& bytes, int count,
                         const QByteArray& after) { QTest::newRow(tag) << bytes << count << after; };
     row("blank lines dropped, ends trimmed",
-        QByteArray("a.jpg\r\n\r\n   \r\n b.jpg @WITH=c.wav ENDWITH \r\n\r\n"), 2,
-        QByteArray("a.jpg\r\nb.jpg @WITH=c.wav ENDWITH\r\n"));
-    row("25 blanks before a name", QByteArray(25, ' ') + "a.jpg", 1, QByteArray("a.jpg\r\n"));
-    row("trailing ideographic blank stays", QByteArray("a.jpg\xE3\x80\x80\n"), 1,
-        QByteArray("a.jpg\x81\x40\r\n"));
-    row("list folder mark", QByteArray("%:\\pics\\a.jpg"), 1, QByteArray("C:\\shows\\a.jpg\r\n"));
-    row("blank lines only untouched", QByteArray("\r\n  \r\n"), 0, QByteArray("\r\n  \r\n"));
+        "a.jpg\r\n\r\n   \r\n b.jpg @WITH=c.wav ENDWITH \r\n\r\n", 2,
+        "a.jpg\r\nb.jpg @WITH=c.wav ENDWITH\r\n");
+    row("25 blanks before a name", QByteArray(25, ' ') + "a.jpg", 1, "a.jpg\r\n");
+    row("trailing ideographic blank stays", "a.jpg\xE3\x80\x80\n", 1, "a.jpg\x81\x40\r\n");
+    row("list folder mark", "%:\\pics\\a.jpg", 1, "C:\\shows\\a.jpg\r\n");
+    row("blank lines only untouched", "\r\n  \r\n", 0, "\r\n  \r\n");
+    row("missing", QByteArray(), 0, QByteArray());
 }
 
 void TestBasicReading::clean()
 {
     BasicsFixture f;
     f.state.StartFileName = QStringLiteral("C:\\shows\\show.lst");
-    f.home.writeFile("list.lst", FETCH(QByteArray, bytes));
+    QFETCH(QByteArray, bytes);
+    QFETCH(QByteArray, after);
+    if (!bytes.isNull())
+        f.home.writeFile("list.lst", bytes);
     QCOMPARE(f.basics.CleanListFile(kList), FETCH(int, count));
-    QCOMPARE(f.home.readFile("list.lst"), FETCH(QByteArray, after));
+    QCOMPARE(f.home.exists("list.lst"), !after.isNull());
+    if (!after.isNull())
+        QCOMPARE(f.home.readFile("list.lst"), after);
+    QVERIFY(f.ui.boxes.isEmpty());
 }
 
-void TestBasicReading::cleanMissingFile()
+void TestBasicReading::resolve_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("programFolder");
+    QTest::addColumn<QString>("pairBefore"); // "from|to"
+    QTest::addColumn<QString>("answer");     // drive typed into the drive window
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QString>("pairAfter");
+    QTest::addColumn<int>("asked");
+    const auto row = [](const char* tag, const QString& line, const QString& programFolder,
+                        const QString& pairBefore, const QString& answer, const QString& result,
+                        const QString& pairAfter, int asked) {
+        QTest::newRow(tag) << line << programFolder << pairBefore << answer << result << pairAfter
+                           << asked;
+    };
+    row("mark before an address", "*:http://example.invalid/a\\\\b.html", "Z:\\usr\\bin", "|", "",
+        "http://example.invalid/a\\b.html", "|", 0);
+    row("program drive", "*:\\pics\\a.jpg @WITH=*:\\snd\\b.wav ENDWITH", "Z:\\usr\\bin", "|", "",
+        "Z:\\pics\\a.jpg @WITH=Z:\\snd\\b.wav ENDWITH", "*:|Z:", 0);
+    row("asked drive", "?:\\pics\\a.jpg @WITH=?:\\snd\\b.wav ENDWITH", "Z:\\usr\\bin", "|",
+        "d:", "D:\\pics\\a.jpg @WITH=D:\\snd\\b.wav ENDWITH", "?:|D:", 1);
+    row("doubled backslash collapsed", "?:\\\\pics\\a.jpg", "", "?:|E:", "", "E:\\pics\\a.jpg",
+        "?:|E:", 0);
+    row("list folder twice, bare name", "%:a.jpg @WITH=%:\\x\\b.wav ENDWITH", "", "|", "",
+        "C:\\shows\\a.jpg @WITH=C:\\shows\\b.wav ENDWITH", "%:|", 0);
+    row("later line without mark", "C:\\a.jpg", "", "?:|D:", "", "C:\\a.jpg", "?:|D:", 0);
+    row("later line with the mark", "?:\\b.jpg", "", "?:|D:", "", "D:\\b.jpg", "?:|D:", 0);
+}
+
+void TestBasicReading::resolve()
 {
     BasicsFixture f;
-    QCOMPARE(f.basics.CleanListFile(QStringLiteral("C:\\none.lst")), 0);
+    f.state.ProgramFolder = FETCH(QString, programFolder);
+    f.state.StartFileName = QStringLiteral("C:\\shows\\show.lst");
+    const QStringList before = FETCH(QString, pairBefore).split('|');
+    f.state.ForcedDriveFrom = before[0];
+    f.state.ForcedDriveTo = before[1];
+    QFETCH(QString, answer);
+    f.host.onAskDrive = [&f, answer](const QString&) {
+        f.state.ForcedDriveFrom = QStringLiteral("?:");
+        f.state.ForcedDriveTo = answer.toUpper();
+    };
+    QCOMPARE(f.basics.ResolveDriveName(FETCH(QString, line)), FETCH(QString, result));
+    QCOMPARE(f.state.ForcedDriveFrom + '|' + f.state.ForcedDriveTo, FETCH(QString, pairAfter));
+    QCOMPARE(f.host.askedMarks.size(), FETCH(int, asked));
     QVERIFY(f.ui.boxes.isEmpty());
-    QVERIFY(!f.home.exists("none.lst"));
+}
+
+void TestBasicReading::askedOnceForAList()
+{
+    // The user closes the window twice without a drive, then gives one.
+    BasicsFixture f;
+    int calls = 0;
+    f.host.onAskDrive = [&](const QString&) {
+        if (++calls == 3)
+            f.state.ForcedDriveTo = QStringLiteral("F:");
+    };
+    QCOMPARE(f.basics.ResolveDriveName(QStringLiteral("?:\\a.jpg")), QStringLiteral("F:\\a.jpg"));
+    QCOMPARE(f.basics.ResolveDriveName(QStringLiteral("?:\\b.jpg")), QStringLiteral("F:\\b.jpg"));
+    QCOMPARE(calls, 3);
+}
+
+void TestBasicReading::programFolderWithoutDrive()
+{
+    BasicsFixture f;
+    f.state.ProgramFolder = QStringLiteral("/usr/bin");
+    QCOMPARE(f.basics.ResolveDriveName(QStringLiteral("*:\\a.jpg")), QStringLiteral("*:\\a.jpg"));
+    QCOMPARE(f.ui.boxes, QStringList{"強制ドライブ名を正しく検出していません。"});
 }
 
 QTEST_GUILESS_MAIN(TestBasicReading)

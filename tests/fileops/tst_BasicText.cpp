@@ -2,124 +2,76 @@
 #include "fileops/BasicText.h"
 
 #include "support/Fetch.h"
-#include <QDateTime>
 
 #include <QTest>
 
 using namespace lumen;
 
+using TextFunction = QString (*)(const QString&);
+Q_DECLARE_METATYPE(TextFunction)
+
 class TestBasicText : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void trimLineEnds_data();
-    void trimLineEnds();
-    void trimLineEndsChangesTheVariable();
-    void pathParts_data();
-    void pathParts();
-    void dots_data();
-    void dots();
-    void backslashes_data();
-    void backslashes();
+    void oneText_data();
+    void oneText();
     void serchAndReplace_data();
     void serchAndReplace();
     void pair_data();
     void pair();
 };
 
-void TestBasicText::trimLineEnds_data()
+void TestBasicText::oneText_data()
 {
+    QTest::addColumn<TextFunction>("function");
     QTest::addColumn<QString>("in");
     QTest::addColumn<QString>("out");
-    const auto row = [](const char* tag, const QString& in, const QString& out) {
-        QTest::newRow(tag) << in << out;
+    const auto row = [](const char* tag, TextFunction function, const QString& in,
+                        const QString& out) { QTest::newRow(tag) << function << in << out; };
+    const TextFunction trim = [](const QString& t) { return TrimLineEnds(t); };
+    const TextFunction trimInPlace = [](const QString& t) {
+        QString variable = t;
+        TrimLineEnds(variable);
+        return variable;
     };
-    row("blanks behind crlf", "a.jpg \r\n  ", "a.jpg");
-    row("nul padding", QString("abc") + QString(5, QChar(0)), "abc");
-    row("crlf at start kept blanks", "\r\n  a", "  a");
-    row("ideographic blank kept", QString::fromUtf8("\u3000a\u3000"),
-        QString::fromUtf8("\u3000a\u3000"));
+    row("trim: blanks behind crlf", trim, "a.jpg \r\n  ", "a.jpg");
+    row("trim: nul padding", trim, QString("abc") + QString(5, QChar(0)), "abc");
+    row("trim: crlf at start kept blanks", trim, "\r\n  a", "  a");
+    row("trim: ideographic blank kept", trim, "\u3000a\u3000", "\u3000a\u3000");
+    row("trim: the variable changes", trimInPlace, "  C:\\a.jpg\r\n", "C:\\a.jpg");
+    row("file name: bare", FileNameOfPath, "a.jpg", "a.jpg");
+    row("file name: address", FileNameOfPath, "http://x.jp/d\\e/p.html", "p.html");
+    row("file name: trailing backslash", FileNameOfPath, "C:\\pics\\", "");
+    row("file name: dotted folder", FileNameOfPath, "C:\\a.b\\c", "c");
+    row("after backslash: bare", NameAfterLastBackslash, "a.jpg", "");
+    row("after backslash: address", NameAfterLastBackslash, "http://x.jp/d\\e/p.html", "e/p.html");
+    row("after backslash: trailing", NameAfterLastBackslash, "C:\\pics\\", "");
+    row("after backslash: dotted folder", NameAfterLastBackslash, "C:\\a.b\\c", "c");
+    row("folder: bare", FolderOfPath, "a.jpg", "");
+    row("folder: address", FolderOfPath, "http://x.jp/d\\e/p.html", "http://x.jp/d\\");
+    row("folder: trailing backslash", FolderOfPath, "C:\\pics\\", "C:\\pics\\");
+    row("folder: dotted folder", FolderOfPath, "C:\\a.b\\c", "C:\\a.b\\");
+    row("last folder: bare", LastFolderName, "a.jpg", "a.jpg");
+    row("last folder: address", LastFolderName, "http://x.jp/d\\e/p.html", "http://x.jp/d");
+    row("last folder: trailing backslash", LastFolderName, "C:\\pics\\", "");
+    row("last folder: dotted folder", LastFolderName, "C:\\a.b\\c", "c");
+    row("before dot: two dots split at first", NameBeforeFirstDot, "a.b.c", "a");
+    row("before dot: dotted folder", NameBeforeFirstDot, "c:\\a.b\\c", "c:\\a");
+    row("before dot: leading dot", NameBeforeFirstDot, ".x", "");
+    row("after dot: two dots split at first", TextAfterFirstDot, "a.b.c", "b.c");
+    row("after dot: dotted folder", TextAfterFirstDot, "c:\\a.b\\c", "b\\c");
+    row("after dot: leading dot", TextAfterFirstDot, ".x", "x");
+    row("strip: trailing", StripTrailingBackslash, "C:\\a\\\\ ", "C:\\a");
+    row("strip: doubles inside kept", StripTrailingBackslash, "C:\\\\a\\\\b", "C:\\\\a\\\\b");
+    row("strip: root", StripTrailingBackslash, "C:\\", "C:");
+    row("collapse: trailing", CollapseDoubleBackslash, "C:\\a\\\\ ", "C:\\a\\");
+    row("collapse: first of two", CollapseDoubleBackslash, "C:\\\\a\\\\b", "C:\\a\\\\b");
+    row("collapse: root", CollapseDoubleBackslash, "C:\\", "C:\\");
 }
 
-void TestBasicText::trimLineEnds()
+void TestBasicText::oneText()
 {
-    QFETCH(QString, in);
-    QFETCH(QString, out);
-    QCOMPARE(TrimLineEnds(std::as_const(in)), out);
-}
-
-void TestBasicText::trimLineEndsChangesTheVariable()
-{
-    QString path = QStringLiteral("  C:\\a.jpg\r\n");
-    TrimLineEnds(path);
-    QCOMPARE(path, QStringLiteral("C:\\a.jpg"));
-}
-
-void TestBasicText::pathParts_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("fileName");
-    QTest::addColumn<QString>("afterBackslash");
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QString>("lastFolder");
-    const auto row = [](const char* tag, const QString& path, const QString& fileName,
-                        const QString& afterBackslash, const QString& folder,
-                        const QString& lastFolder) {
-        QTest::newRow(tag) << path << fileName << afterBackslash << folder << lastFolder;
-    };
-    row("bare name", "a.jpg", "a.jpg", "", "", "a.jpg");
-    row("address", "http://x.jp/d\\e/p.html", "p.html", "e/p.html", "http://x.jp/d\\",
-        "http://x.jp/d");
-    row("trailing backslash", "C:\\pics\\", "", "", "C:\\pics\\", "");
-    row("dotted folder", "C:\\a.b\\c", "c", "c", "C:\\a.b\\", "c");
-}
-
-void TestBasicText::pathParts()
-{
-    QFETCH(QString, path);
-    QCOMPARE(FileNameOfPath(path), FETCH(QString, fileName));
-    QCOMPARE(NameAfterLastBackslash(path), FETCH(QString, afterBackslash));
-    QCOMPARE(FolderOfPath(path), FETCH(QString, folder));
-    QCOMPARE(LastFolderName(path), FETCH(QString, lastFolder));
-}
-
-void TestBasicText::dots_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("after");
-    const auto row = [](const char* tag, const QString& name, const QString& before,
-                        const QString& after) { QTest::newRow(tag) << name << before << after; };
-    row("two dots split at first", "a.b.c", "a", "b.c");
-    row("dotted folder in path", "c:\\a.b\\c", "c:\\a", "b\\c");
-    row("leading dot", ".x", "", "x");
-}
-
-void TestBasicText::dots()
-{
-    QFETCH(QString, name);
-    QCOMPARE(NameBeforeFirstDot(name), FETCH(QString, before));
-    QCOMPARE(TextAfterFirstDot(name), FETCH(QString, after));
-}
-
-void TestBasicText::backslashes_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("stripped");
-    QTest::addColumn<QString>("collapsed");
-    const auto row = [](const char* tag, const QString& path, const QString& stripped,
-                        const QString& collapsed) {
-        QTest::newRow(tag) << path << stripped << collapsed;
-    };
-    row("trailing", "C:\\a\\\\ ", "C:\\a", "C:\\a\\");
-    row("two doubles, first collapsed", "C:\\\\a\\\\b", "C:\\\\a\\\\b", "C:\\a\\\\b");
-    row("root", "C:\\", "C:", "C:\\");
-}
-
-void TestBasicText::backslashes()
-{
-    QFETCH(QString, path);
-    QCOMPARE(StripTrailingBackslash(path), FETCH(QString, stripped));
-    QCOMPARE(CollapseDoubleBackslash(path), FETCH(QString, collapsed));
+    QCOMPARE(FETCH(TextFunction, function)(FETCH(QString, in)), FETCH(QString, out));
 }
 
 void TestBasicText::serchAndReplace_data()
@@ -140,10 +92,9 @@ void TestBasicText::serchAndReplace_data()
 
 void TestBasicText::serchAndReplace()
 {
-    QFETCH(QString, source);
-    QFETCH(QString, find);
-    QFETCH(QString, replacement);
-    QCOMPARE(SerchAndReplace(source, find, replacement), FETCH(QString, result));
+    QCOMPARE(
+        SerchAndReplace(FETCH(QString, source), FETCH(QString, find), FETCH(QString, replacement)),
+        FETCH(QString, result));
 }
 
 void TestBasicText::pair_data()
@@ -159,8 +110,7 @@ void TestBasicText::pair_data()
 
 void TestBasicText::pair()
 {
-    QFETCH(QString, pair);
-    const FilePair split = SplitFilePair(pair);
+    const FilePair split = SplitFilePair(FETCH(QString, pair));
     QCOMPARE(split.from, FETCH(QString, from));
     QCOMPARE(split.to, FETCH(QString, to));
 }

@@ -58,6 +58,7 @@ void TestFormStop::clickDuringReadStopsIt()
     };
     QCOMPARE(basics.ReadTextOfFile(QStringLiteral("C:\\big.lst")), QString());
     QVERIFY(!stop.isVisible());
+    QVERIFY(f.ui.boxes.isEmpty());
 }
 
 QTEST_MAIN(TestFormStop)
