@@ -1,7 +1,5 @@
-// FormMakeHTML and FormRichText driven by their object names: the settings
-// files read and written, the initial setting, the frames, the run from the
-// window, the first page shown, the template window; each frame is grabbed
-// and its texts must fit their controls.
+// FormMakeHTML and FormRichText driven by their object names; each frame is
+// grabbed and its texts must fit their controls.
 #include "html/ButtonIcons.h"
 #include "html/FormMakeHTML.h"
 #include "html/FormRichText.h"
@@ -10,6 +8,7 @@
 #include "platform/FormRegistry.h"
 #include "platform/TextCodec.h"
 #include "support/BasicsFixture.h"
+#include "support/Fetch.h"
 #include "support/Shots.h"
 
 #include <QAbstractButton>
@@ -60,32 +59,13 @@ QStringList clipped(QWidget* frame)
 class TestFormMakeHTML : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void firstLoadTakesTheDefaults();
     void loadReadsTheFiles();
-    void unloadWritesBothFiles();
+    void firstLoadAndUnload();
     void framesShowOneAtATime_data();
     void framesShowOneAtATime();
     void runAndShowTheFirstPage();
     void templateWindow();
 };
-
-void TestFormMakeHTML::firstLoadTakesTheDefaults()
-{
-    Window w;
-    w.form->showForm();
-    QCOMPARE(w.form->windowTitle(), "HTML作成");
-    // The scale stands at 10 and the text says 20, as the initial setting leaves them.
-    QCOMPARE(w.form->HScrollMP3CompR->value(), 10);
-    QCOMPARE(w.form->TextMP3CompR->text(), "20");
-    QVERIFY(w.form->FrameSetDir->isVisible() && !w.form->FrameSetDaisuu->isVisible());
-
-    // The slider writes its number with a leading blank; a double click reads the text.
-    w.form->HScrollMP3CompR->setValue(35);
-    QCOMPARE(w.form->TextMP3CompR->text(), " 35");
-    w.form->TextMP3CompR->setText("50");
-    QTest::mouseDClick(w.form->TextMP3CompR, Qt::LeftButton);
-    QCOMPARE(w.form->HScrollMP3CompR->value(), 50);
-}
 
 void TestFormMakeHTML::loadReadsTheFiles()
 {
@@ -121,10 +101,13 @@ void TestFormMakeHTML::loadReadsTheFiles()
     QCOMPARE(w.f.state.DirecData.HtmlDelFolderFlag, 0);
 }
 
-void TestFormMakeHTML::unloadWritesBothFiles()
+void TestFormMakeHTML::firstLoadAndUnload()
 {
     Window w;
     w.form->showForm();
+    // The scale stands at 10 and the text says 20, as the initial setting leaves them.
+    QCOMPARE(w.form->HScrollMP3CompR->value(), 10);
+    QCOMPARE(w.form->TextMP3CompR->text(), "20");
     w.form->TextHTMLPageName->setText("book");
     w.form->ExchageWord[3]->setText("BACK");
     QVERIFY(w.form->unload());
@@ -138,26 +121,32 @@ void TestFormMakeHTML::unloadWritesBothFiles()
     QCOMPARE(words[3], "BACK");
     // Only 設定 puts the words to the table the run uses.
     QCOMPARE(w.form->maker().ReplaceWordTable.at(kColWord, 3), "背景色");
+
+    // The slider writes its number with a leading blank; a double click reads the text.
+    w.form->HScrollMP3CompR->setValue(35);
+    QCOMPARE(w.form->TextMP3CompR->text(), " 35");
+    w.form->TextMP3CompR->setText("50");
+    QTest::mouseDClick(w.form->TextMP3CompR, Qt::LeftButton);
+    QCOMPARE(w.form->HScrollMP3CompR->value(), 50);
 }
 
 void TestFormMakeHTML::framesShowOneAtATime_data()
 {
-    QTest::addColumn<QString>("command");
+    QTest::addColumn<QStringList>("clicks");
     QTest::addColumn<QString>("frame");
-    const auto row = [](const char* tag, const QString& command, const QString& frame) {
-        QTest::newRow(tag) << command << frame;
-    };
-    row("folders", "CommandShowFolderSet", "FrameSetDir");
-    row("buttons", "CommandShowSetButton", "FrameSetButton");
+    QTest::newRow("first load") << QStringList() << "FrameSetDir";
+    QTest::newRow("buttons") << QStringList{"CommandShowSetButton"} << "FrameSetButton";
+    QTest::newRow("back to folders")
+        << QStringList{"CommandShowSetButton", "CommandShowFolderSet"} << "FrameSetDir";
 }
 
 void TestFormMakeHTML::framesShowOneAtATime()
 {
-    QFETCH(QString, command);
     QFETCH(QString, frame);
     Window w;
     w.form->showForm();
-    QTest::mouseClick(w.form->findChild<QPushButton*>(command), Qt::LeftButton);
+    for (const QString& command : FETCH(QStringList, clicks))
+        QTest::mouseClick(w.form->findChild<QPushButton*>(command), Qt::LeftButton);
     auto* shown = w.form->findChild<QGroupBox*>(frame);
     const QList<QGroupBox*> frames = w.form->findChildren<QGroupBox*>();
     QCOMPARE(

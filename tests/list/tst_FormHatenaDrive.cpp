@@ -7,12 +7,11 @@
 #include "platform/Controls.h"
 #include "platform/FileBoxes.h"
 #include "support/BasicsFixture.h"
+#include "support/Fetch.h"
 #include "support/Shots.h"
 
-#include "support/Fetch.h"
 #include <QComboBox>
 #include <QPushButton>
-
 #include <QTest>
 #include <QTimer>
 
@@ -38,22 +37,18 @@ void TestFormHatenaDrive::loadShowsTheDriveAndItsLists()
     f.home.makeFolder("shows");
     FormHatenaDrive form(f.basics);
     form.load();
-    auto* drive = form.findChild<DriveListBox*>("Drive1");
-    auto* newDrive = form.findChild<QComboBox*>("ComboNewDrive");
-    auto* files = form.findChild<FileListBox*>("File1");
-    QVERIFY(drive && newDrive && files);
-    QCOMPARE(drive->drive(), QStringLiteral("c:"));
-    QCOMPARE(newDrive->currentText(), QStringLiteral("C:"));
+    QCOMPARE(form.Drive1->drive(), "c:");
+    QCOMPARE(form.ComboNewDrive->currentText(), "C:");
     QStringList names;
-    for (int i = 0; i < files->count(); ++i)
-        names << files->item(i)->text();
+    for (int i = 0; i < form.File1->count(); ++i)
+        names << form.File1->item(i)->text();
     QCOMPARE(names, (QStringList{"a.lst", "B.LST"}));
 
     form.show();
     saveShot(&form, QStringLiteral("FormHatenaDrive"));
-    drive->setDrive(QStringLiteral("z:"));
-    QCOMPARE(newDrive->currentText(), QStringLiteral("Z:"));
-    QCOMPARE(form.Dir1->path(), QStringLiteral("Z:\\"));
+    form.Drive1->setDrive(QStringLiteral("z:"));
+    QCOMPARE(form.ComboNewDrive->currentText(), "Z:");
+    QCOMPARE(form.Dir1->path(), "Z:\\");
 }
 
 void TestFormHatenaDrive::commandDoTakesThePair_data()
@@ -78,7 +73,7 @@ void TestFormHatenaDrive::commandDoTakesThePair()
     form.load();
     form.ComboHatenaDrive->setEditText(FETCH(QString, mark));
     form.ComboNewDrive->setEditText(FETCH(QString, drive));
-    QTest::mouseClick(form.findChild<QPushButton*>("CommandDo"), Qt::LeftButton);
+    QTest::mouseClick(form.CommandDo, Qt::LeftButton);
     QFETCH(QString, from);
     QFETCH(QString, to);
     QCOMPARE(f.state.ForcedDriveFrom, from);
@@ -127,9 +122,8 @@ void TestFormHatenaDrive::asksForListLinesThroughTheRealWindow()
         form.CommandDo->click();
         form.CommandExit->click();
     });
-    QCOMPARE(basics.ResolveDriveName(QStringLiteral("?:\\pics\\a.jpg")),
-             QStringLiteral("D:\\pics\\a.jpg"));
-    QCOMPARE(shownMark, QStringLiteral("?:"));
+    QCOMPARE(basics.ResolveDriveName(QStringLiteral("?:\\pics\\a.jpg")), "D:\\pics\\a.jpg");
+    QCOMPARE(shownMark, "?:");
     QVERIFY(!form.isVisible());
 }
 

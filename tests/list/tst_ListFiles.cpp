@@ -1,7 +1,9 @@
-// The dictionary and extension files, their defaults byte for byte, and the
-// loader's steps on lists made by the tests.
+// The line grammar in one table, English and the user's words; the dictionary
+// and extension files, their defaults byte for byte; the loader's steps on
+// lists made by the tests.
 #include "list/CommandWords.h"
 #include "list/ExtTable.h"
+#include "list/ListGrammar.h"
 #include "list/ListLoader.h"
 #include "support/BasicsFixture.h"
 #include "support/Fetch.h"
@@ -14,6 +16,12 @@ using namespace lumen::test;
 namespace {
 
 const char* const kSettings = "Lumentas/ForProgramRun_KDR/";
+
+// A row's cells main|with|delay|comment|option.
+QStringList cells(const QString& row)
+{
+    return row.split('|');
+}
 
 QStringList row(const ProgramState& state, int r)
 {
@@ -28,6 +36,12 @@ QStringList row(const ProgramState& state, int r)
 class TestListFiles : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    void parse_data();
+    void parse();
+    void lineKinds_data();
+    void lineKinds();
+    void language_data();
+    void language();
     void defaultCommandListBytes();
     void userWords_data();
     void userWords();
@@ -41,6 +55,89 @@ private Q_SLOTS:
     void loaderGuardsTheCount();
     void loaderStopsOnRequest();
 };
+
+void TestListFiles::parse_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<bool>("english");
+    QTest::addColumn<QString>("row");
+    QTest::addColumn<QString>("message");
+    const auto row = [](const char* tag, const QString& line, bool english, const QString& cells,
+                        const QString& message) {
+        QTest::newRow(tag) << line << english << cells << message;
+    };
+    row("all items",
+        "C:\\pics\\a.jpg @WITH=C:\\snd\\a.wav ENDWITH @DELAY=5 ENDDELAY "
+        "@COMMENT=<<<<<first line<<<<<second line ENDCOMMENT @OPTION=PICTURESCROLL ENDOPTION",
+        true, "C:\\pics\\a.jpg|C:\\snd\\a.wav|5|<<<<<\r\nfirst line\r\nsecond line|PICTURESCROLL",
+        "");
+    row("items in any order", "a.jpg @OPTION=STOPSOUND ENDOPTION @WITH=b.wav ENDWITH", true,
+        "a.jpg|b.wav|9999||STOPSOUND", "");
+    row("lower-case end words", "a.jpg @with=b.wav endwith @delay= 3 enddelay", true,
+        "a.jpg|b.wav|3||", "");
+    row("mixed-case end word isn't found", "a.jpg @WITH=b.wav EndWith", true, "a.jpg||9999||",
+        " There is no word ENDWITH");
+    row("missing end word drops the rest", "a.jpg @DELAY=4 @WITH=b.wav ENDWITH", true,
+        "a.jpg||9999||", " There is no word ENDDELAY");
+    row("no @: the whole line", "a.jpg = b", true, "a.jpg = b||9999||", "");
+    row("blank between @ and word: passed over", "a.jpg @ WITH=b.wav ENDWITH", true,
+        "a.jpg||9999||", "");
+    row("unknown word passed over", "a.jpg @SIZE=3 ENDSIZE @DELAY=2 ENDDELAY", true, "a.jpg||2||",
+        "");
+    row("comment without the mark", "a.jpg @COMMENT=hello ENDCOMMENT", true,
+        "a.jpg||9999|<<<<<hello|", "");
+    row("@ inside a comment value",
+        "a.jpg @COMMENT=<<<<<me@example.jp ENDCOMMENT @DELAY=1 ENDDELAY", true,
+        "a.jpg||1|<<<<<\r\nme@example.jp|", "");
+    row("user words", "a.jpg @ト=b.wav デス @オクレ=6 デス @オプションコマンド=画像スクロール デス",
+        false, "a.jpg|b.wav|6||画像スクロール", "");
+    row("English words with the user's set are unknown", "a.jpg @WITH=b.wav ENDWITH", false,
+        "a.jpg||9999||", "");
+    row("shared end word: each item ends at the next one",
+        "a.jpg @コメント=<<<<<x デス @ト=b.wav デス", false, "a.jpg|b.wav|9999|<<<<<\r\nx|", "");
+}
+
+void TestListFiles::parse()
+{
+    QStringList words = englishCommandWords();
+    if (!FETCH(bool, english))
+        applyUserCommandWords(words, defaultCommandListLines().join(QStringLiteral("\r\n")));
+    const ParsedLine parsed = parseListLine(FETCH(QString, line), words);
+    const ListRow& r = parsed.row;
+    QCOMPARE((QStringList{r.main, r.with, r.delay, r.comment, r.option}),
+             cells(FETCH(QString, row)));
+    QCOMPARE(parsed.missingEndWord, FETCH(QString, message));
+}
+
+void TestListFiles::lineKinds_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<int>("kind");
+    QTest::newRow("comment") << "' note" << int(LineKind::Comment);
+    QTest::newRow("20 blanks, then a name") << QString(20, ' ') + "a.jpg" << int(LineKind::Command);
+    QTest::newRow("21 blanks, then a name")
+        << QString(21, ' ') + "a.jpg" << int(LineKind::TooIndented);
+    QTest::newRow("a quote later on") << "a'b.jpg" << int(LineKind::Command);
+}
+
+void TestListFiles::lineKinds()
+{
+    QCOMPARE(int(lineKindOf(FETCH(QString, line))), FETCH(int, kind));
+}
+
+void TestListFiles::language_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("english");
+    QTest::newRow("file comment counts") << "a.jpg @FILECOMMENT=x ENDFILECOMMENT" << true;
+    QTest::newRow("lower case doesn't") << "a.jpg @delay=3 enddelay" << false;
+    QTest::newRow("bare names") << "a.jpg\r\nb.jpg" << false;
+}
+
+void TestListFiles::language()
+{
+    QCOMPARE(listLanguageOf(FETCH(QString, text)), FETCH(bool, english) ? "EG" : "JP");
+}
 
 void TestListFiles::defaultCommandListBytes()
 {
@@ -58,9 +155,6 @@ void TestListFiles::defaultCommandListBytes()
     QVERIFY(bytes.endsWith("LISTAUTOSTARTOFF = \x83\x8A\x83\x58\x83\x67\x8E\xA9\x93\xAE\x83\x58"
                            "\x83\x5E\x81\x5B\x83\x67_OFF\r\n"));
     QCOMPARE(bytes.count("\r\n"), 6 + 34);
-    // And the words it gives are the user's.
-    QCOMPARE(f.state.CommandWord[kWith], QStringLiteral("ト"));
-    QCOMPARE(f.state.CommandWord[kEndOption], QStringLiteral("デス"));
 }
 
 void TestListFiles::userWords_data()
@@ -162,29 +256,27 @@ void TestListFiles::load_data()
 {
     QTest::addColumn<QByteArray>("list");
     QTest::addColumn<int>("fileCount");
-    QTest::addColumn<QStringList>("row1");
+    QTest::addColumn<QString>("row1");
     QTest::addColumn<QStringList>("messages");
     QTest::addColumn<QString>("display");
-    QTest::newRow("English list")
-        << QByteArray("' show\r\n\r\nC:\\a.jpg @DELAY=2 ENDDELAY\r\nC:\\b.jpg @WITH=C:\\b.wav\r\n")
-        << 2 << QStringList{"C:\\a.jpg", "", "2", "", ""}
-        << QStringList{" There is no word ENDWITH"}
-        << "C:\\a.jpg @DELAY=2 ENDDELAY\r\nC:\\b.jpg @WITH=C:\\b.wav\r\n\r";
-    QTest::newRow("Shift-JIS list with user words")
-        << QByteArray("C:\\\x83\x74.jpg @\x83\x49\x83\x4E\x83\x8C=4 \x83\x66\x83\x58\r\n") << 1
-        << QStringList{"C:\\フ.jpg", "", "4", "", ""} << QStringList()
-        << "C:\\フ.jpg @オクレ=4 デス\r\n\r";
-    QTest::newRow("UTF-8 list") << QByteArray("C:\\\xE5\x86\x99\xE7\x9C\x9F.jpg\n") << 1
-                                << QStringList{"C:\\写真.jpg", "", "9999", "", ""} << QStringList()
-                                << "C:\\写真.jpg\r\n\r";
-    QTest::newRow("one English item turns the user's words off")
-        << QByteArray("a.jpg @オクレ=4 デス\r\nb.jpg @OPTION=X ENDOPTION") << 2
-        << QStringList{"a.jpg", "", "9999", "", ""} << QStringList()
-        << "a.jpg @オクレ=4 デス\r\nb.jpg @OPTION=X ENDOPTION\r\n\r";
-    QTest::newRow("binary file") << QByteArray("\x00\x01\xFF\xFE\x81\r\n\x7F@=\x00", 10) << 2
-                                 << QStringList{"\u0001\uFFFD\uFFFD\uFFFD", "", "9999", "", ""}
-                                 << QStringList()
-                                 << QString("\u0001\uFFFD\uFFFD\uFFFD\r\n\u007F@=\r\n\r");
+    const auto row = [](const char* tag, const QByteArray& list, int fileCount, const QString& row1,
+                        const QStringList& messages, const QString& display) {
+        QTest::newRow(tag) << list << fileCount << row1 << messages << display;
+    };
+    row("English list",
+        "' show\r\n\r\nC:\\a.jpg @DELAY=2 ENDDELAY\r\nC:\\b.jpg @WITH=C:\\b.wav\r\n", 2,
+        "C:\\a.jpg||2||", {" There is no word ENDWITH"},
+        "C:\\a.jpg @DELAY=2 ENDDELAY\r\nC:\\b.jpg @WITH=C:\\b.wav\r\n\r");
+    row("Shift-JIS list with user words",
+        "C:\\\x83\x74.jpg @\x83\x49\x83\x4E\x83\x8C=4 \x83\x66\x83\x58\r\n", 1, "C:\\フ.jpg||4||",
+        {}, "C:\\フ.jpg @オクレ=4 デス\r\n\r");
+    row("UTF-8 list", "C:\\\xE5\x86\x99\xE7\x9C\x9F.jpg\n", 1, "C:\\写真.jpg||9999||", {},
+        "C:\\写真.jpg\r\n\r");
+    row("one English item turns the user's words off",
+        "a.jpg @オクレ=4 デス\r\nb.jpg @OPTION=X ENDOPTION", 2, "a.jpg||9999||", {},
+        "a.jpg @オクレ=4 デス\r\nb.jpg @OPTION=X ENDOPTION\r\n\r");
+    row("binary file", QByteArray("\x00\x01\xFF\xFE\x81\r\n\x7F@=\x00", 10), 2,
+        "\u0001\uFFFD\uFFFD\uFFFD||9999||", {}, "\u0001\uFFFD\uFFFD\uFFFD\r\n\u007F@=\r\n\r");
 }
 
 void TestListFiles::load()
@@ -198,7 +290,7 @@ void TestListFiles::load()
         text = f.basics.ReadTextOfFile(workingCopyName(f.basics));
     const ListFill fill = fillListArray(f.basics, text, count);
     QCOMPARE(fill.fileCount, FETCH(int, fileCount));
-    QCOMPARE(row(f.state, 1), FETCH(QStringList, row1));
+    QCOMPARE(row(f.state, 1), cells(FETCH(QString, row1)));
     QCOMPARE(f.ui.boxes, FETCH(QStringList, messages));
     QCOMPARE(fill.displayText, FETCH(QString, display));
     QCOMPARE(FixedText(f.state.DirecData.LastListFile), QStringLiteral("C:\\show.lst"));
@@ -209,10 +301,7 @@ void TestListFiles::load()
 void TestListFiles::loaderGuardsTheCount()
 {
     BasicsFixture f;
-    QByteArray lines;
-    for (int i = 0; i < 33000; ++i)
-        lines += "C:\\a.jpg\r\n";
-    f.home.writeFile("big.lst", lines);
+    f.home.writeFile("big.lst", QByteArray("C:\\a.jpg\r\n").repeated(33000));
     QString text;
     QCOMPARE(prepareWorkingCopy(f.basics, QStringLiteral("C:\\big.lst"), &text), -1);
     QCOMPARE(f.ui.boxes, QStringList{"選択したファイル数は 33000個です。エディターでファイル数を"
