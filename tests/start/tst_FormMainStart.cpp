@@ -1,28 +1,117 @@
-// The program's start and end through Main, on fakes: the first start, the
-// small settings files, the command line, and the fixed order of closing.
+// The program through Main, on fakes: the first start, the small settings
+// files, the command line and the fixed order of closing; whole-screen mode
+// and the navigator, the option words of a page, the font and colour sets,
+// and Auto Page on the fake clock.
+#include "display/FormComment.h"
+#include "display/FormRightLeftNorm.h"
+#include "display/MediaPanel.h"
+#include "display/PictureBox.h"
+#include "platform/Colors.h"
+#include "platform/Controls.h"
 #include "platform/FormBase.h"
+#include "platform/Twips.h"
+#include "settings/FormSetFontAndColor.h"
 #include "settings/SendToList.h"
+#include "show/FormLumentaExit.h"
 #include "show/FormMain.h"
-#include "start/AppFixture.h"
+#include "show/FormOption.h"
 #include "start/Lumenta.h"
+#include "support/FakeMedia.h"
+#include "support/Fakes.h"
+#include "support/Fetch.h"
+#include "support/Shots.h"
+#include "support/TestHome.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
 using namespace lumen;
 using namespace lumen::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Lumenta with its real windows over the fakes, in a temporary home past its
+// first start unless told otherwise.
+struct App {
+    TestHome home;
+    FakeClock clock;
+    FakeDialogs ui;
+    FakeLauncher launcher;
+    FakeMedia media;
+    Services services{clock, ui, launcher, home.fs, media};
+    std::unique_ptr<Lumenta> app;
+    int quits = 0;
+
+    // `names` are relative to the temporary home, as the shell would give them.
+    explicit App(const QStringList& names = QStringList(), bool pastFirstStart = true)
+    {
+        QStringList arguments;
+        for (const QString& name : names)
+            arguments << home.native(name);
+        if (pastFirstStart) {
+            DirecDataRecord record;
+            record.CommentFontName = u"MS UI Gothic"_s;
+            home.makeFolder("Lumentas/ForProgramRun_KDR");
+            writeDirecData(home.native("Lumentas/ForProgramRun_KDR/DirecData.ran"), record);
+        }
+        app = std::make_unique<Lumenta>(services, arguments, home.native("bin/lumenta"));
+        app->quit = [this] { ++quits; };
+    }
+    QByteArray settings(const char* name) const
+    {
+        return home.readFile(u"Lumentas/ForProgramRun_KDR/"_s + name);
+    }
+    bool shown(const QString& name) const
+    {
+        FormBase* form = app->forms().existing(name);
+        return form && form->isVisible();
+    }
+    template <class T> T* form(const char* name)
+    {
+        return static_cast<T*>(app->forms().form(QString::fromLatin1(name)));
+    }
+    FormMain& main() { return app->formMain(); }
+    // Starts the program and opens the list at once (no half-minute view).
+    void openList(const QStringList& lines)
+    {
+        home.writeFile(u"show.lst"_s, lines.join(u"\r\n"_s).toUtf8());
+        app->Main();
+        main().resize(800, 580);
+        main().CheckQuiCkWork->setChecked(true);
+        main().OpenFileList(u"C:\\show.lst"_s);
+    }
+};
+
+} // namespace
 
 class TestFormMainStart : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void firstStartShowsOnlyTheAccessWindow();
-    void normalStartWritesItsDefaults();
-    void existingSettingsAreRead();
+    void settingsFiles();
     void startWithAListOnTheCommandLine();
     void closingEndsInTheFixedOrder();
+    void wholeScreenAndBack_data();
+    void wholeScreenAndBack();
+    void optionWordsActOnTheirPage_data();
+    void optionWordsActOnTheirPage();
+    void setStoredByTheWindowIsLoadedByTheOption_data();
+    void setStoredByTheWindowIsLoadedByTheOption();
+    void autoPage_data();
+    void autoPage();
+    void autoPageStops_data();
+    void autoPageStops();
 };
 
 void TestFormMainStart::firstStartShowsOnlyTheAccessWindow()
@@ -36,11 +125,10 @@ void TestFormMainStart::firstStartShowsOnlyTheAccessWindow()
     QVERIFY(a.app->state().InSubMain);
 
     // Completing it goes on into the normal start without a restart.
-    a.app->forms()
-        .form("FormSetAccessDirectry")
-        ->findChild<QPushButton*>("CommandExit")
-        ->setEnabled(true);
-    a.app->forms().form("FormSetAccessDirectry")->findChild<QPushButton*>("CommandExit")->click();
+    auto* exit =
+        a.app->forms().form("FormSetAccessDirectry")->findChild<QPushButton*>("CommandExit");
+    exit->setEnabled(true);
+    exit->click();
     QVERIFY(a.shown("FormMain"));
     QVERIFY(!a.shown("FormSetAccessDirectry"));
     QVERIFY(!a.app->state().InSubMain);
@@ -49,9 +137,9 @@ void TestFormMainStart::firstStartShowsOnlyTheAccessWindow()
         qint16(3));
 }
 
-void TestFormMainStart::normalStartWritesItsDefaults()
+void TestFormMainStart::settingsFiles()
 {
-    App a;
+    App a; // missing: written with their defaults
     a.app->Main();
     QVERIFY(a.shown("FormMain"));
     QCOMPARE(a.settings("PictureSizeAllowVal.dat"), QByteArray("20\r\n"));
@@ -60,56 +148,322 @@ void TestFormMainStart::normalStartWritesItsDefaults()
     QCOMPARE(a.app->state().DirectryLock, 0); // the box stays as designed on the default path
     QCOMPARE(a.settings("SendToList.txt"),
              text::encodeForFile(defaultSendToListLines().join("\r\n") + "\r\n"));
-}
 
-void TestFormMainStart::existingSettingsAreRead()
-{
-    App a;
-    a.home.writeFile("Lumentas/ForProgramRun_KDR/PictureSizeAllowVal.dat", "35\r\n");
-    a.home.writeFile("Lumentas/ForProgramRun_KDR/AccessPass.dat", "C:\\shows\r\n");
-    a.home.writeFile("Lumentas/ForProgramRun_KDR/AccessLockDir.dat", "C:\\locked\r\n1\r\n");
-    a.app->Main();
-    QCOMPARE(a.app->state().PictureSizeAllowVal, 35);
-    QCOMPARE(a.app->state().AccessPassDir, QStringLiteral("C:\\shows"));
-    QCOMPARE(a.app->state().AccessLockDir, QStringLiteral("C:\\locked"));
-    QCOMPARE(a.app->state().DirectryLock, 1);
+    App b;
+    b.home.writeFile("Lumentas/ForProgramRun_KDR/PictureSizeAllowVal.dat", "35\r\n");
+    b.home.writeFile("Lumentas/ForProgramRun_KDR/AccessPass.dat", "C:\\shows\r\n");
+    b.home.writeFile("Lumentas/ForProgramRun_KDR/AccessLockDir.dat", "C:\\locked\r\n1\r\n");
+    b.app->Main();
+    QCOMPARE(b.app->state().PictureSizeAllowVal, 35);
+    QCOMPARE(b.app->state().AccessPassDir, u"C:\\shows"_s);
+    QCOMPARE(b.app->state().AccessLockDir, u"C:\\locked"_s);
+    QCOMPARE(b.app->state().DirectryLock, 1);
 }
 
 void TestFormMainStart::startWithAListOnTheCommandLine()
 {
-    App a({QStringLiteral("my pics/a.jpg"), QStringLiteral("my pics/b.jpg")});
+    App a({u"my pics/a.jpg"_s, u"my pics/b.jpg"_s});
     a.home.writeFile("my pics/a.jpg", "x");
     a.home.writeFile("my pics/b.jpg", "x");
-    a.app->formMain().CheckQuiCkWork->setChecked(true);
+    a.main().CheckQuiCkWork->setChecked(true);
     a.app->Main();
-    FormMain& main = a.app->formMain();
-    QCOMPARE(main.TextTotal->text(), QStringLiteral("2"));
-    QCOMPARE(main.TextFileName->text(), QStringLiteral("C:\\my pics\\a.jpg"));
-    QVERIFY(main.CheckUseCyberView->isChecked());
+    QCOMPARE(a.main().TextTotal->text(), u"2"_s);
+    QCOMPARE(a.main().TextFileName->text(), u"C:\\my pics\\a.jpg"_s);
+    QVERIFY(a.main().CheckUseCyberView->isChecked());
     QVERIFY(a.app->state().ListReady);
-    QCOMPARE(a.home.readFile("Lumentas/TempList.lst"),
-             QByteArray("C:\\my pics\\a.jpg\r\nC:\\my pics\\b.jpg\r\n"));
 }
 
 void TestFormMainStart::closingEndsInTheFixedOrder()
 {
     App a;
     QStringList unloaded;
-    for (const QString& name :
-         {QStringLiteral("FormSetAccessDirectry"), QStringLiteral("FormHatenaDrive")}) {
+    for (const QString& name : {u"FormSetAccessDirectry"_s, u"FormHatenaDrive"_s}) {
         FormBase* form = a.app->forms().form(name);
         QObject::connect(form, &FormBase::unloaded, form, [&unloaded, name] { unloaded << name; });
         form->load();
     }
     a.app->Main();
-    a.app->formMain().CommandExit->click();
+    a.main().CheckOriginalSize->setChecked(true);
+    a.main().CommandExit->click();
     // The record first, then the windows in their order, then the end.
-    QVERIFY(a.settings("DirecData.ran").size() == 1547);
+    QCOMPARE(a.settings("DirecData.ran").size(), 1547);
+    const DirecDataRecord saved =
+        readDirecData(a.home.native("Lumentas/ForProgramRun_KDR/DirecData.ran"));
+    QCOMPARE(saved.OriginalSizeOn, kTrue);
+    QCOMPARE(saved.CyberViewOn, kFalse);
     QCOMPARE(unloaded, (QStringList{"FormSetAccessDirectry", "FormHatenaDrive"}));
     QVERIFY(a.app->ended());
     QTRY_COMPARE(a.quits, 1);
     QVERIFY(a.clock.ending());
     QVERIFY(!a.shown("FormMain"));
+}
+
+void TestFormMainStart::wholeScreenAndBack_data()
+{
+    QTest::addColumn<QRect>("stored"); // the normal rectangle in twips; empty: as it was
+    QTest::addColumn<QRect>("result"); // in twips
+    QTest::newRow("back where it was") << QRect() << QRect();
+    QTest::newRow("a small one snaps to 12000 by 8500")
+        << QRect(600, 300, 9000, 6000) << QRect(600, 300, 12000, 8500);
+    QTest::newRow("a left beyond the screen comes back to 0")
+        << QRect(20000, 300, 12000, 8500) << QRect(0, 300, 12000, 8500);
+}
+
+void TestFormMainStart::wholeScreenAndBack()
+{
+    App a;
+    a.openList(
+        {a.home.picture("p1.png"), a.home.picture("p2.png"), a.home.picture("p3.png", 900, 700)});
+    FormMain& main = a.main();
+    main.move(0, 15);
+    const QRect normal = main.frameGeometry();
+
+    // The first FILL has no rectangle of its own: it takes the screen.
+    main.CommandFull->click();
+    QCOMPARE(main.frameGeometry(), QGuiApplication::primaryScreen()->geometry());
+    QVERIFY(main.FillMode && !main.Frame1->isVisible() && !main.Frame2->isVisible());
+    auto* navigator = a.form<FormRightLeftNorm>("FormRightLeftNorm");
+    QVERIFY(navigator->isVisible());
+    QVERIFY(navigator->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+    QCOMPARE(navigator->windowTitle(), u"メインビュウワ(1/3)"_s);
+
+    // The navigator's arrows and its bar turn the pages.
+    navigator->CommandRight->click();
+    QCOMPARE(navigator->HScroll1->value(), 2);
+    navigator->HScroll1->setValue(3);
+    QCOMPARE(main.TextCount->text(), u"3"_s);
+    QCOMPARE(a.app->state().PicNo, qint16(3));
+    QVERIFY(main.Picture3->isVisible()); // fitted to the whole window
+    saveShot(navigator, u"FormRightLeftNorm"_s);
+
+    QFETCH(QRect, stored);
+    if (!stored.isNull()) {
+        main.NormalWindowLeft = stored.x();
+        main.NormalWindowTop = stored.y();
+        main.NormalWindowWidth = stored.width();
+        main.NormalWindowHeight = stored.height();
+    }
+    // Closing the window is refused; the exit choice takes it back to normal.
+    bool exitShown = false;
+    QTimer::singleShot(0, &main, [&] {
+        exitShown = a.shown("FormLumentaExit");
+        a.form<FormLumentaExit>("FormLumentaExit")->CommandMainNormDisp->click();
+    });
+    main.close();
+    QVERIFY(exitShown);
+    QVERIFY(main.isVisible() && main.Frame1->isVisible());
+    const QRect tw = FETCH(QRect, result);
+    QCOMPARE(main.frameGeometry(),
+             tw.isNull() ? normal
+                         : QRect(twipsToPixels(tw.x()), twipsToPixels(tw.y()),
+                                 twipsToPixels(tw.width()), twipsToPixels(tw.height())));
+    QVERIFY(!navigator->isVisible());
+    QCOMPARE(QSize(main.FillWindowWidth, main.FillWindowHeight),
+             QGuiApplication::primaryScreen()->geometry().size() * 15);
+}
+
+namespace {
+
+// What the option words change, as one line.
+QString look(App& a)
+{
+    FormMain& main = a.main();
+    auto* comment = static_cast<FormComment*>(a.app->forms().existing("FormComment"));
+    return u"scroll=%1 comment=%2 ground=%3 fill=%4"_s.arg(main.CheckOriginalSize->isChecked())
+        .arg(comment && comment->isVisible() ? comment->Label1->font().pointSize() : 0)
+        .arg(bgrToHexText(backColor(main.Picture1)))
+        .arg(main.Frame1->isHidden() && a.shown("FormRightLeftNorm"));
+}
+
+} // namespace
+
+void TestFormMainStart::optionWordsActOnTheirPage_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("look");
+    QTest::newRow("2 PICTURESCROLL") << 2 << "scroll=1 comment=0 ground=&H00C0C0C0& fill=0";
+    QTest::newRow("3 COMMENTSET2") << 3 << "scroll=1 comment=20 ground=&H00C0C0C0& fill=0";
+    QTest::newRow("4 PICTBACKCOL3") << 4 << "scroll=1 comment=0 ground=&H00336699& fill=0";
+    QTest::newRow("5 FORMMAXIMAMSIZE") << 5 << "scroll=1 comment=0 ground=&H00336699& fill=1";
+    QTest::newRow("6 FORMNORMALSIZE") << 6 << "scroll=1 comment=0 ground=&H00336699& fill=0";
+    QTest::newRow("7 PUTPICTUREINIMAGE") << 7 << "scroll=0 comment=0 ground=&H00336699& fill=0";
+}
+
+void TestFormMainStart::optionWordsActOnTheirPage()
+{
+    App a;
+    a.home.writeFile("Lumentas/ForProgramRun_KDR/COMMENTSET2.DAT", "IPAGothic,20,&HFF,0\r\n");
+    a.home.writeFile("Lumentas/ForProgramRun_KDR/PICTBACKCOL3.DAT", "&H336699\r\n");
+    const QString option = u" @OPTION=%1 ENDOPTION"_s;
+    a.openList(
+        {a.home.picture("p1.png"), a.home.picture("p2.png") + option.arg("PICTURESCROLL"),
+         a.home.picture("p3.png") + " @COMMENT=<<<<<set two ENDCOMMENT" + option.arg("COMMENTSET2"),
+         a.home.picture("p4.png") + option.arg("PICTBACKCOL3"),
+         a.home.picture("p5.png") + option.arg("FORMMAXIMAMSIZE"),
+         a.home.picture("p6.png") + option.arg("FORMNORMALSIZE"),
+         a.home.picture("p7.png") + option.arg("PUTPICTUREINIMAGE")});
+    a.main().Picture1->setBackColor(0xC0C0C0);
+    for (int page = 1; page < FETCH(int, page); ++page)
+        a.main().CommandRight_Click();
+    QCOMPARE(look(a), FETCH(QString, look));
+}
+
+void TestFormMainStart::setStoredByTheWindowIsLoadedByTheOption_data()
+{
+    QTest::addColumn<QString>("mode");
+    QTest::addColumn<QString>("set");
+    QTest::addColumn<QByteArray>("file");
+    QTest::newRow("comment") << "COMMENT"
+                             << "COMMENTSET4" << QByteArray("MS UI Gothic,9,&H00336699&,0\r\n");
+    QTest::newRow("picture ground") << "PICTBACKCOL"
+                                    << "PICTBACKCOL5" << QByteArray("Non,Non,&H00336699&,Non \r\n");
+}
+
+void TestFormMainStart::setStoredByTheWindowIsLoadedByTheOption()
+{
+    App a;
+    QFETCH(QString, set);
+    a.openList({a.home.picture("p1.png"), a.home.picture("p2.png") +
+                                              " @COMMENT=<<<<<note ENDCOMMENT" + " @OPTION=" + set +
+                                              " ENDOPTION"});
+
+    // The window: a reset, a ground colour from the dialog, stored by name.
+    auto* window = a.form<FormSetFontAndColor>("FormSetFontAndColor");
+    window->setMode(FETCH(QString, mode));
+    window->showForm();
+    window->CommandReset->click();
+    a.ui.colors.enqueue(0x336699);
+    window->CommandBackColor->click();
+    window->Combo1->setCurrentText(set);
+    window->CommandSaveAs->click();
+    QCOMPARE(a.settings(qPrintable(set + ".dat")), FETCH(QByteArray, file));
+    saveShot(window, u"FormSetFontAndColor_"_s + FETCH(QString, mode));
+
+    // Back to the defaults on show; the page's option word loads the set again.
+    window->CommandReset->click();
+    FormMain& main = a.main();
+    main.CommandRight_Click();
+    QWidget* target = main.Picture1;
+    if (FETCH(QString, mode) == "COMMENT")
+        target = a.app->forms().existing("FormComment");
+    QCOMPARE(bgrToHexText(backColor(target)), u"&H00336699&"_s);
+}
+
+void TestFormMainStart::autoPage_data()
+{
+    // Each page carries a sound companion, so the sounds tell which pages were
+    // shown; the waits are "page:milliseconds". A page "mid" is a medium.
+    QTest::addColumn<QStringList>("delays");
+    QTest::addColumn<QString>("direction");
+    QTest::addColumn<int>("startPage");
+    QTest::addColumn<QString>("interval");
+    QTest::addColumn<QString>("act"); // "stop N": Stop pressed in wait N; "end N": the medium ends
+    QTest::addColumn<QString>("pages");
+    QTest::addColumn<QString>("waits");
+    QTest::addColumn<bool>("stillOn"); // AutoPageOn afterwards
+
+    QTest::newRow("forward: interval, DELAY 3, DELAY 1, then 0, a fraction, a negative")
+        << QStringList{"", "3", "1", "0", "0.5", "-2"} << u"Fowerd"_s << 1 << u"2.7"_s << QString()
+        << u"1 2 3 4 5 6"_s << u"1:2000 2:3000 3:1000"_s << false;
+    QTest::newRow("back from the third page: DELAY 0 waits the interval as well")
+        << QStringList{"", "0", "", ""} << u"Back"_s << 3 << u"2"_s << QString() << u"3 2 1"_s
+        << u"3:2000 2:2000 1:2000"_s << true;
+    QTest::newRow("loop goes round; Stop in a wait acts when the wait ends")
+        << QStringList{"", "", ""} << u"Loop"_s << 2 << u"1"_s << u"stop 4"_s << u"1 2 3 1"_s
+        << u"1:1000 2:1000 3:1000 1:1000"_s << false;
+    QTest::newRow("forward from the last page leaves at once, still on")
+        << QStringList{"", ""} << u"Fowerd"_s << 2 << u"3"_s << QString() << QString() << QString()
+        << true;
+    QTest::newRow("an interval of 0 becomes 0.001")
+        << QStringList{"", ""} << u"Fowerd"_s << 1 << u"0"_s << QString() << u"1 2"_s
+        << u"1:1 2:1"_s << false;
+    // The medium's page plays no companion sound.
+    QTest::newRow("a medium: its half second, polls to its end, then the interval")
+        << QStringList{"", "mid", ""} << u"Fowerd"_s << 1 << u"2"_s << u"end 5"_s << u"1 3"_s
+        << u"1:2000 2:500 2:100 2:100 2:100 2:2000 3:2000"_s << false;
+}
+
+void TestFormMainStart::autoPage()
+{
+    App a;
+    QFETCH(QStringList, delays);
+    QStringList lines;
+    for (int n = 1; n <= delays.size(); ++n) {
+        const QString& delay = delays[n - 1];
+        lines << (delay == "mid" ? u"C:\\song.mid"_s : a.home.picture(u"p%1.png"_s.arg(n))) +
+                     u" @WITH=C:\\s%1.wav ENDWITH"_s.arg(n) +
+                     (delay.isEmpty() || delay == "mid" ? QString()
+                                                        : " @DELAY=" + delay + " ENDDELAY");
+    }
+    a.home.writeFile("song.mid", "MThd");
+    a.openList(lines);
+    auto* option = a.form<FormOption>("FormOption");
+    option->showForm();
+    for (int page = 1; page < FETCH(int, startPage); ++page)
+        a.main().CommandRight_Click();
+
+    QStringList waits;
+    const QString act = FETCH(QString, act);
+    a.clock.onWait = [&](qint64 ms) {
+        waits << u"%1:%2"_s.arg(a.app->state().PicNo).arg(ms);
+        if (act == "stop " + QString::number(waits.size()))
+            option->CommandStop->click();
+        if (act == "end " + QString::number(waits.size()))
+            static_cast<FakeEngine*>(a.main().MediaPlayer2->engine())->finish();
+    };
+    a.media.sounds.clear();
+    option->findChild<QRadioButton*>("Option" + FETCH(QString, direction))->setChecked(true);
+    option->TextIntervalTime->setText(FETCH(QString, interval));
+    option->CommandStart->click();
+
+    QStringList shown;
+    for (const QString& sound : a.media.sounds)
+        shown << sound.section(QLatin1Char('s'), -1).section(QLatin1Char('.'), 0, 0);
+    QCOMPARE(shown.join(QLatin1Char(' ')), FETCH(QString, pages));
+    QCOMPARE(waits.join(QLatin1Char(' ')), FETCH(QString, waits));
+    QFETCH(bool, stillOn);
+    QCOMPARE(a.app->state().AutoPageOn, stillOn);
+    QCOMPARE(option->isVisible(), !stillOn); // Stop shows the window again
+    if (!stillOn) {
+        // The interval kept in the record is the one on show, as a whole number.
+        QCOMPARE(a.app->state().DirecData.AutoPageInterval,
+                 qint16(qRound(option->TextIntervalTime->text().toDouble())));
+        QCOMPARE(backColor(a.main().CommandOption), kColorGrey);
+    }
+}
+
+void TestFormMainStart::autoPageStops_data()
+{
+    QTest::addColumn<bool>("byTimer"); // else by a left click on the picture
+    QTest::addColumn<QStringList>("boxes");
+    QTest::newRow("the bar runs five times its length")
+        << true << QStringList{"What happend? Timer is waiting too much."};
+    QTest::newRow("a left click on the fitted picture") << false << QStringList();
+}
+
+void TestFormMainStart::autoPageStops()
+{
+    App a;
+    a.openList({a.home.picture("p1.png")});
+    auto* option = a.form<FormOption>("FormOption");
+    QVERIFY(!option->isVisible()); // Stop shows it
+    a.app->state().AutoPageOn = true;
+    if (FETCH(bool, byTimer)) {
+        option->BarStep = twWidth(option->LabelBack);
+        option->Timer1->start();
+        for (int tick = 1; tick <= 5; ++tick)
+            option->Timer1_Timer();
+        QVERIFY(a.ui.boxes.isEmpty()); // five lengths are still allowed
+        option->Timer1_Timer();
+        QVERIFY(!option->Timer1->isActive());
+    } else {
+        a.main().Picture3_MouseUp(a.main().Picture3, Qt::LeftButton, 100, 100);
+    }
+    QCOMPARE(a.ui.boxes, FETCH(QStringList, boxes));
+    QVERIFY(!a.app->state().AutoPageOn);
+    QVERIFY(option->StopPressed);
+    QVERIFY(option->isVisible());
+    saveShot(option, u"FormOption"_s);
 }
 
 QTEST_MAIN(TestFormMainStart)

@@ -8,28 +8,26 @@
 #include <QDir>
 #include <QTest>
 
-#include <memory>
-
 using namespace lumen;
 using namespace lumen::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
 const QString kOccupied = QStringLiteral("C:\\Lumentas\\TempList.lst\r\n"
                                          "This file name is ocupied by this program. "
                                          "Please select other files");
-const QString kPositionsFile = QStringLiteral("Lumentas/ForProgramRun_KDR/TempList0.dat");
-const QString kStartListFile = QStringLiteral("Lumentas/TempList.lst");
+const QString kPositionsFile = u"Lumentas/ForProgramRun_KDR/TempList0.dat"_s;
+const QString kStartListFile = u"Lumentas/TempList.lst"_s;
 
 // The fixture with the hooks recording their calls.
 struct StartFixture : BasicsFixture {
     QStringList calls;
-    ModuleStartWithFile module{
-        basics,
-        {[this] { calls << QStringLiteral("cyber view on"); },
-         [this] { calls << QStringLiteral("show main and stop"); },
-         [this](const QString& list) { calls << QStringLiteral("open ") + list; },
-         [this] { calls << QStringLiteral("end"); }}};
+    ModuleStartWithFile module{basics,
+                               {[this] { calls << u"cyber view on"_s; },
+                                [this] { calls << u"show main and stop"_s; },
+                                [this](const QString& list) { calls << u"open "_s + list; },
+                                [this] { calls << u"end"_s; }}};
 
     StartFixture()
     {
@@ -64,12 +62,9 @@ private Q_SLOTS:
 
     void parseCommandLine_data();
     void parseCommandLine();
-    void occupiedName_data();
-    void occupiedName();
     void positionsInAnyCase();
     void startWithFile_data();
     void startWithFile();
-    void stopWhileBuilding();
 };
 
 void TestModuleStartWithFile::parseCommandLine_data()
@@ -87,7 +82,7 @@ void TestModuleStartWithFile::parseCommandLine_data()
         << QByteArray("Pos, 1, 15\r\nPos, 17, 25\r\nPos, 27, 37\r\n"
                       "C:\\work\\x y.jpg C:\\up.jpg C:\\work\\sub\r\n");
     QTest::newRow("Japanese name, written in Shift-JIS")
-        << QStringList{QStringLiteral("~/写真/a.jpg")} << QStringLiteral("C:\\写真\\a.jpg")
+        << QStringList{u"~/写真/a.jpg"_s} << u"C:\\写真\\a.jpg"_s
         << QByteArray("Pos, 1, 11\r\nC:\\\x8e\xca\x90\x5e\\a.jpg\r\n");
     QTest::newRow("no names") << QStringList{} << "" << QByteArray("\r\n");
 }
@@ -102,36 +97,6 @@ void TestModuleStartWithFile::parseCommandLine()
     QCOMPARE(f.host.stopEvents, QStringList{"show"});
     QVERIFY(f.ui.boxes.isEmpty());
     QVERIFY(f.calls.isEmpty());
-}
-
-void TestModuleStartWithFile::occupiedName_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<bool>("occupied");
-    QTest::newRow("TempList.lst of the data folder")
-        << QStringList{"~/Lumentas/TempList.lst"} << true;
-    QTest::newRow("in other case, behind another name")
-        << QStringList{"~/a.jpg", "~/lumentas/TEMPLIST.lst"} << true;
-    QTest::newRow("a name that begins with it")
-        << QStringList{"~/Lumentas/TempList.lst.jpg"} << true;
-    QTest::newRow("TempList.lst elsewhere") << QStringList{"~/Lumentas/sub/TempList.lst"} << false;
-}
-
-void TestModuleStartWithFile::occupiedName()
-{
-    StartFixture f;
-    f.module.StartWithFile(f.native(FETCH(QStringList, arguments)));
-    if (FETCH(bool, occupied)) {
-        QCOMPARE(f.ui.boxes, QStringList{kOccupied});
-        QCOMPARE(f.calls, QStringList{"end"});
-        QVERIFY(!f.home.exists(kPositionsFile));
-        QVERIFY(!f.home.exists(kStartListFile));
-        QVERIFY(!f.state.ListReady);
-    } else {
-        QVERIFY(f.ui.boxes.isEmpty());
-        QVERIFY(!f.calls.contains("end"));
-        QCOMPARE(f.calls.last(), QStringLiteral("open C:\\Lumentas\\TempList.lst"));
-    }
 }
 
 void TestModuleStartWithFile::positionsInAnyCase()
@@ -153,49 +118,57 @@ void TestModuleStartWithFile::positionsInAnyCase()
 void TestModuleStartWithFile::startWithFile_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QByteArray>("list");
+    QTest::addColumn<int>("stopAt");      // the events run at which Stop is pressed, 0 for none
+    QTest::addColumn<QByteArray>("list"); // empty: the name is ours, the program ends
 
     QTest::newRow("folder, list and file")
-        << QStringList{"~/my pics", "~/shows/s.lst", "~/plain.jpg"}
+        << QStringList{"~/my pics", "~/shows/s.lst", "~/plain.jpg"} << 0
         << QByteArray("C:\\my pics\\a b.jpg\r\nC:\\my pics\\sub\\c.jpg\r\n"
                       "C:\\p\\1.jpg\r\nC:\\p\\2.jpg\r\nC:\\plain.jpg\r\n");
     QTest::newRow("a name that isn't there")
-        << QStringList{"~/gone.jpg"} << QByteArray("C:\\gone.jpg\r\n");
-    QTest::newRow("Japanese name: Shift-JIS") << QStringList{QStringLiteral("~/写真/a.jpg")}
-                                              << QByteArray("C:\\\x8e\xca\x90\x5e\\a.jpg\r\n");
+        << QStringList{"~/gone.jpg"} << 0 << QByteArray("C:\\gone.jpg\r\n");
+    QTest::newRow("Japanese name: Shift-JIS")
+        << QStringList{u"~/写真/a.jpg"_s} << 0 << QByteArray("C:\\\x8e\xca\x90\x5e\\a.jpg\r\n");
     QTest::newRow("name outside Shift-JIS: UTF-8 with its mark")
-        << QStringList{QStringLiteral("~/café.jpg")}
+        << QStringList{u"~/café.jpg"_s} << 0
         << QByteArray("\xEF\xBB\xBF"
                       "C:\\caf\xC3\xA9.jpg\r\n");
+    // Events run once per name while scanning (2), then before each name (3),
+    // before the folder's listing (4), its file (5) and its sub-folder (6).
+    QTest::newRow("stop ends the walk and the scan")
+        << QStringList{"~/my pics", "~/plain.jpg"} << 6 << QByteArray("C:\\my pics\\a b.jpg\r\n");
+    QTest::newRow("TempList.lst of the data folder")
+        << QStringList{"~/Lumentas/TempList.lst"} << 0 << QByteArray();
+    QTest::newRow("in other case, behind another name")
+        << QStringList{"~/a.jpg", "~/lumentas/TEMPLIST.lst"} << 0 << QByteArray();
+    QTest::newRow("a name that begins with it")
+        << QStringList{"~/Lumentas/TempList.lst.jpg"} << 0 << QByteArray();
+    QTest::newRow("TempList.lst elsewhere") << QStringList{"~/Lumentas/sub/TempList.lst"} << 0
+                                            << QByteArray("C:\\Lumentas\\sub\\TempList.lst\r\n");
 }
 
 void TestModuleStartWithFile::startWithFile()
 {
     StartFixture f;
     f.state.StopRequested = true; // left over: cleared first
-    f.module.StartWithFile(f.native(FETCH(QStringList, arguments)));
-    QCOMPARE(f.home.readFile(kStartListFile), FETCH(QByteArray, list));
-    QVERIFY(!f.home.exists(kPositionsFile));
-    QCOMPARE(f.calls, (QStringList{"cyber view on", "show main and stop",
-                                   "open C:\\Lumentas\\TempList.lst"}));
-    QVERIFY(f.state.ListReady);
-    QVERIFY(!f.state.StopRequested);
-}
-
-void TestModuleStartWithFile::stopWhileBuilding()
-{
-    StartFixture f;
-    // Events run once per name while scanning (2), then before each name
-    // (3), before the folder's listing (4), before its file (5) and before
-    // its sub-folder (6): the stop there ends the walk and the scan.
-    f.clock.onDoEvents = [&f] {
-        if (f.clock.doEventsCount == 6)
+    const int stopAt = FETCH(int, stopAt);
+    f.clock.onDoEvents = [&f, stopAt] {
+        if (f.clock.doEventsCount == stopAt)
             f.state.StopRequested = true;
     };
-    f.module.StartWithFile(f.native({"~/my pics", "~/plain.jpg"}));
-    QCOMPARE(f.home.readFile(kStartListFile), QByteArray("C:\\my pics\\a b.jpg\r\n"));
+    f.module.StartWithFile(f.native(FETCH(QStringList, arguments)));
+    QFETCH(QByteArray, list);
+    const bool occupied = list.isEmpty();
+    QCOMPARE(f.home.readFile(kStartListFile), list);
+    QCOMPARE(f.home.exists(kStartListFile), !occupied);
+    QVERIFY(!f.home.exists(kPositionsFile));
+    QCOMPARE(f.ui.boxes, occupied ? QStringList{kOccupied} : QStringList());
+    const QStringList calls = occupied ? QStringList{"end"}
+                                       : QStringList{"cyber view on", "show main and stop",
+                                                     "open C:\\Lumentas\\TempList.lst"};
+    QCOMPARE(f.calls, calls);
+    QCOMPARE(f.state.ListReady, !occupied);
     QVERIFY(!f.state.StopRequested);
-    QCOMPARE(f.calls.last(), QStringLiteral("open C:\\Lumentas\\TempList.lst"));
 }
 
 QTEST_GUILESS_MAIN(TestModuleStartWithFile)
