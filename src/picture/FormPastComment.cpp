@@ -85,11 +85,10 @@ void FormPastComment::Form_Load()
         twResize(this, record.PastCommentWidth, record.PastCommentHeight);
         placeFromRecord(this, record.PastCommentLeft, record.PastCommentTop, Qt::TopLeftCorner);
     } else {
-        // First use: beside the picture, right of where Picture2 ends.
+        // First use: low on the screen, right of where the picture ends.
         twResize(this, kDefaultWidth, kDefaultHeight);
-        placeFromRecord(
-            this, ClampInt16(twLeft(&main_) + twLeft(main_.Picture1) + twWidth(main_.Picture2)),
-            ClampInt16(twTop(&main_) + twTop(main_.Picture1)), Qt::BottomLeftCorner);
+        placeFirstTime(this, Qt::BottomLeftCorner,
+                       main_.Picture2->mapToGlobal(QPoint(main_.Picture2->width(), 0)).x());
     }
     // The newest temporary picture is the one to paste on.
     auto* store = static_cast<FormSaveImage*>(forms_.form(QStringLiteral("FormSaveImage")));

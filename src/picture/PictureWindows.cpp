@@ -10,6 +10,8 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace lumen {
 namespace {
 
@@ -28,37 +30,45 @@ void turnOriginalSizeOn(FormMain& main)
         main.CheckOriginalSize->click();
 }
 
-void placeFromRecord(QWidget* window, qint16 left, qint16 top, Qt::Corner firstPlace)
+void placeFirstTime(QWidget* window, Qt::Corner corner, std::optional<int> left)
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    if (!screen) {
-        twMove(window, std::max<qint16>(left, 0), std::max<qint16>(top, 0));
+    if (!screen)
         return;
-    }
     const QRect area = screen->availableGeometry();
+    // Before its first showing a window knows no frame yet: room is kept
+    // for the title bar and borders that the desktop will add.
+    const QSize frame = window->frameGeometry().size() == window->size()
+                            ? window->size() + QSize(kFrameAllowance, 4 * kFrameAllowance)
+                            : window->frameGeometry().size();
+    const bool right = corner == Qt::TopRightCorner || corner == Qt::BottomRightCorner;
+    const bool bottom = corner == Qt::BottomLeftCorner || corner == Qt::BottomRightCorner;
+    int x = right ? area.right() + 1 - frame.width() : area.left();
+    if (left)
+        x = std::clamp(*left, area.left(), std::max(area.left(), area.right() + 1 - frame.width()));
+    window->move(x, bottom ? area.bottom() + 1 - frame.height() : area.top());
+}
+
+void placeFromRecord(QWidget* window, qint16 left, qint16 top, Qt::Corner firstPlace)
+{
     if (left == 0 && top == 0) {
-        // Before its first showing a window knows no frame yet: room is kept
-        // for the title bar and borders that the desktop will add.
-        const QSize frame = window->frameGeometry().size() == window->size()
-                                ? window->size() + QSize(kFrameAllowance, 4 * kFrameAllowance)
-                                : window->frameGeometry().size();
-        const bool right = firstPlace == Qt::TopRightCorner || firstPlace == Qt::BottomRightCorner;
-        const bool bottom =
-            firstPlace == Qt::BottomLeftCorner || firstPlace == Qt::BottomRightCorner;
-        window->move(right ? area.right() + 1 - frame.width() : area.left(),
-                     bottom ? area.bottom() + 1 - frame.height() : area.top());
+        placeFirstTime(window, firstPlace);
         return;
     }
     double x = left;
     double y = top;
-    if (x < 0 || twipsToPixels(x) >= area.right())
-        x = 0;
-    if (y < 0 || twipsToPixels(y) >= area.bottom())
-        y = 0;
-    // The frame stays inside the area the desktop leaves free.
-    x = std::max(x, double(pixelsToTwips(area.left())));
-    y = std::max(y, double(pixelsToTwips(area.top())));
-    twMove(window, x, y);
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (screen) {
+        const QRect area = screen->availableGeometry();
+        if (x < 0 || twipsToPixels(x) >= area.right())
+            x = 0;
+        if (y < 0 || twipsToPixels(y) >= area.bottom())
+            y = 0;
+        // The frame stays inside the area the desktop leaves free.
+        x = std::max(x, double(pixelsToTwips(area.left())));
+        y = std::max(y, double(pixelsToTwips(area.top())));
+    }
+    twMove(window, std::max(x, 0.0), std::max(y, 0.0));
 }
 
 RecordPlace recordPlace(const QWidget* window)

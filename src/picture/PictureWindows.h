@@ -8,6 +8,8 @@
 
 #include <Qt>
 
+#include <optional>
+
 class QWidget;
 
 namespace lumen {
@@ -26,6 +28,9 @@ void turnOriginalSizeOn(FormMain& main);
 // off the screen or negative goes back to 0. A record that has never held a
 // place (0, 0) puts the window in the given corner of the screen instead.
 void placeFromRecord(QWidget* window, qint16 left, qint16 top, Qt::Corner firstPlace);
+// The first place of a window: a corner of the screen's free area; with
+// `left` (pixels), the frame's left edge as near to it as the area allows.
+void placeFirstTime(QWidget* window, Qt::Corner corner, std::optional<int> left = std::nullopt);
 
 // The window's place and size in twips, as 16-bit record fields.
 struct RecordPlace {
