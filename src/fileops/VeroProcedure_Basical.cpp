@@ -560,6 +560,11 @@ bool VeroProcedure_Basical::SavePictureAsPNG(const QImage& picture, const QStrin
     return savePicture(picture, path, "png");
 }
 
+bool VeroProcedure_Basical::SavePictureAsBMP(const QImage& picture, const QString& path)
+{
+    return savePicture(picture, path, "bmp");
+}
+
 QImage VeroProcedure_Basical::LoadPictureByPNGObject(const QString& path) const
 {
     QImageReader reader(nativePath(path));

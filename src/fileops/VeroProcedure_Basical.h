@@ -59,6 +59,7 @@ public:
     QString GetSystemFolder() const;
     bool SavePictureAsJPG(const QImage& picture, const QString& path);
     bool SavePictureAsPNG(const QImage& picture, const QString& path);
+    bool SavePictureAsBMP(const QImage& picture, const QString& path); // SavePicture
     QImage LoadPictureByPNGObject(const QString& path) const;
     void MakeMovieWrapperHtml(const QString& movie, const QString& path);
 

@@ -297,12 +297,7 @@ void FormMain::connectHandlers()
             CommandNoText_Click();
     });
 
-    // Commands whose work isn't in this build yet stand disabled.
-    for (QWidget* command : std::initializer_list<QWidget*>{
-             CommandModPic, CommandSaveImage, CommandEdit, CommandWriteCommentOnPic}) {
-        command->setEnabled(false);
-        command->setToolTip(QStringLiteral("準備中"));
-    }
+    connectPictureWork();
 }
 
 FormMain::~FormMain() = default;

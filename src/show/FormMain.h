@@ -211,6 +211,14 @@ public:
     void Picture3_MouseUp(QWidget* picture, Qt::MouseButton button, float x, float y);
     void CommandOption_Click();
 
+    // ---- Picture work (FormMainPictureWork.cpp)
+    void CommandModPic_Click();
+    void CommandSaveImage_Click();
+    void CommandWriteCommentOnPic_Click();
+    void CommandEdit_Click();
+    // The page's comment as text: the text after its mark, or the file it names.
+    QString pageCommentText();
+
 protected:
     void Form_Load() override;
     void Form_Unload(bool& cancel) override;
@@ -251,6 +259,7 @@ private:
     void buildFrame3();
     void buildDisplay();
     void connectHandlers();
+    void connectPictureWork();
     void applyFonts();
     bool isMaximized() const;
     void saveRecord();

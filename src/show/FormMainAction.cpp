@@ -182,11 +182,8 @@ void FormMain::TakeMainAction()
         forms_.unload(QStringLiteral("FormComment"));
     } else {
         HasComment = true;
-        const int mark = InStr(comment, kCommentMark);
-        const QString text =
-            mark >= 1 && mark <= 4 ? Mid(comment, mark + 7) : basics_.ReadTextOfFile(comment);
         if (auto* window = static_cast<FormComment*>(forms_.form(QStringLiteral("FormComment"))))
-            window->setCommentText(text);
+            window->setCommentText(pageCommentText());
     }
 
     CommandNoText->hide();
@@ -261,6 +258,16 @@ void FormMain::companionRule(bool pictureOrTextPage)
     KindMidi = false;
     if (HasComment && !HideComment)
         showCommentWindow();
+}
+
+QString FormMain::pageCommentText()
+{
+    // A comment held in the list begins with its mark; any other names a file.
+    const QString comment = state_.ListArray.at(kColComment, state_.PicNo);
+    if (comment.isEmpty())
+        return QString();
+    const int mark = InStr(comment, kCommentMark);
+    return mark >= 1 && mark <= 4 ? Mid(comment, mark + 7) : basics_.ReadTextOfFile(comment);
 }
 
 void FormMain::showCommentWindow()

@@ -116,6 +116,7 @@ void Lumenta::registerForms()
         main->links.startWithFile = [this] { startWithFile_->StartWithFile(arguments_); };
         main->links.unloadAllForms = [this] { UnloadAllForms(); };
         main->links.endProgram = [this] { End(); };
+        wirePictureLinks(*main);
         return main;
     });
     forms_.add(QStringLiteral("FormHatenaDrive"), [this]() -> FormBase* {
@@ -138,6 +139,7 @@ void Lumenta::registerForms()
     });
     registerShowForms();
     registerAutoPageForms();
+    registerPictureForms();
     forms_.add(QStringLiteral("FormLumentaExit"), [this]() -> FormBase* {
         auto* exit = new FormLumentaExit(basics_, formMain());
         exit->unloadAllForms = [this] { UnloadAllForms(); };

@@ -51,6 +51,8 @@ private:
     void registerForms();
     void registerShowForms();
     void registerAutoPageForms(); // LumentaShowForms.cpp
+    void registerPictureForms();  // LumentaPictureForms.cpp
+    void wirePictureLinks(FormMain& main);
     SetTargets setTargets();
     void openOneFile(const QString& file);
     void readSmallSettingsFiles();
