@@ -43,9 +43,13 @@ void EditTextModel::PutDataFromFileToArray()
     FileSystem& fs = basics_.services().fs;
     fs.chDir(s.ProgramRunDir);
     const QString file = tempFile();
-    basics_.CleanListFile(file);
+    // Cleaned twice, as the second pass may meet drive marks that the first
+    // one made. A first pass that leaves no mark makes the second a plain
+    // reread of the same lines, which is spared.
     QString text;
-    const int count = basics_.CleanListFile(file, &text);
+    int count = basics_.CleanListFile(file, &text);
+    if (HoldsDriveMark(text))
+        count = basics_.CleanListFile(file, &text);
     if (count == 0) // nothing was kept, so the file was left as it stands
         text = readTextFile(fs.toNative(file)).value_or(QString());
 
@@ -83,11 +87,8 @@ QString EditTextModel::standardLine(int row, const OptionWordTable* table, bool 
     ProgramState& s = state();
     const StringGrid& a = s.EditArray;
     const QStringList& words = s.CommandWord;
-    QString line = a.at(kColMain, row);
-    if (!a.view(kColWith, row).isEmpty())
-        appendItem(line, words, kWith, a.view(kColWith, row));
-    if (TrimView(a.view(kColDelay, row)) != u"9999")
-        appendItem(line, words, kDelay, a.view(kColDelay, row));
+    QString line;
+    appendLineHead(line, a, row, words);
     const QString comment = a.at(kColComment, row);
     if (!comment.isEmpty()) {
         switch (commentKindOf(comment)) {
@@ -112,7 +113,16 @@ QString EditTextModel::standardLine(int row, const OptionWordTable* table, bool 
     return line;
 }
 
-void EditTextModel::ArrayToStanderdFile()
+bool EditTextModel::writeTempFile(const QString& text)
+{
+    if (basics_.WriteTextToFile(text, tempFile()))
+        return true;
+    basics_.services().ui.msgBox(QStringLiteral(
+        "作業ファイル TempFile.txt に書き込めません。編集中の内容はそのまま残ります。"));
+    return false;
+}
+
+bool EditTextModel::ArrayToStanderdFile()
 {
     ProgramState& s = state();
     s.EditorOn = true;
@@ -121,12 +131,15 @@ void EditTextModel::ArrayToStanderdFile()
     const OptionWordTable table(
         readTextFile(basics_.services().fs.toNative(commandList)).value_or(QString()));
     QString out;
+    longestWritten_ = 0;
     for (int row = 1; row <= s.EditRowCount; ++row) {
-        out += standardLine(row, &table, false);
+        const QString line = standardLine(row, &table, false);
+        longestWritten_ = qMax(longestWritten_, int(line.size()));
+        out += line;
         out += kCrLf;
     }
     // Trimmed of its last line end too: the file ends with one.
-    basics_.WriteTextToFile(TrimLineEnds(out), tempFile());
+    return writeTempFile(TrimLineEnds(out));
 }
 
 QString EditTextModel::ArrayToStanderdText()

@@ -70,8 +70,20 @@ EditItemWords::EditItemWords(const QStringList& commandWord)
     for (int i = 0; i < 5; ++i) {
         const ItemKind& kind = kItemKinds[i];
         const QString end = commandWord.value(kind.start + 1);
-        items[i] = {kind.start, UCase(commandWord.value(kind.start)), end, LCase(end),
-                    kind.endName};
+        const QString lower = LCase(end);
+        items[i] = {kind.start, UCase(commandWord.value(kind.start)), end, lower, kind.endName};
+        if (lower == end)
+            continue;
+        if (!anyLowerDiffers) {
+            lowerPrefix = lower;
+            anyLowerDiffers = true;
+            continue;
+        }
+        qsizetype common = 0;
+        while (common < lowerPrefix.size() && common < lower.size() &&
+               lowerPrefix[common] == lower[common])
+            ++common;
+        lowerPrefix.truncate(common);
     }
 }
 
@@ -110,14 +122,23 @@ const EditItemWords::Item* itemOfWord(QStringView word, const EditItemWords& wor
     return nullptr;
 }
 
-qsizetype endWordFrom(QStringView line, qsizetype equals, const EditItemWords::Item& item)
+qsizetype endWordFrom(QStringView line, qsizetype equals, const EditItemWords::Item& item,
+                      bool lowerPossible)
 {
     if (item.end.isEmpty())
         return -1;
-    const qsizetype lower = line.indexOf(item.endLower, equals);
-    if (lower >= 0 || item.endLower == item.end)
-        return lower;
+    if (lowerPossible || item.endLower == item.end) {
+        const qsizetype lower = line.indexOf(item.endLower, equals);
+        if (lower >= 0 || item.endLower == item.end)
+            return lower;
+    }
     return line.indexOf(item.end, equals);
+}
+
+bool lowerEndWordPossible(QStringView line, const EditItemWords& words)
+{
+    return words.anyLowerDiffers &&
+           (words.lowerPrefix.isEmpty() || line.contains(words.lowerPrefix));
 }
 
 QStringView itemValue(QStringView line, qsizetype equals, qsizetype end)
@@ -157,6 +178,7 @@ EditLine readEditLine(QStringView line, const EditItemWords& words)
     read.row.main = TrimView(line.left(line.indexOf(QLatin1Char('@')))).toString();
     // Each "@" in turn; an "@" inside a value is passed, since the search
     // goes on from the end word of the item before.
+    const bool lowerPossible = lowerEndWordPossible(line, words);
     qsizetype from = 0;
     ItemStart start;
     while (nextItemStart(line, from, start)) {
@@ -166,7 +188,7 @@ EditLine readEditLine(QStringView line, const EditItemWords& words)
         const EditItemWords::Item* item = itemOfWord(start.word, words);
         if (!item)
             break; // an unknown word: it and every item behind it are lost
-        const qsizetype end = endWordFrom(line, start.equals, *item);
+        const qsizetype end = endWordFrom(line, start.equals, *item, lowerPossible);
         if (end < 0) {
             read.messages << missingEndWordMessage(*item);
             break;

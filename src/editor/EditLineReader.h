@@ -23,7 +23,12 @@ struct EditItemWords {
         QString endLower;    // the end word in lower case
         const char* endName; // the English end word, named in the message
     };
-    Item items[5];       // WITH, DELAY, COMMENT, FILECOMMENT, OPTION, in that order
+    Item items[5]; // WITH, DELAY, COMMENT, FILECOMMENT, OPTION, in that order
+    // What every lower-case end word that differs from its stored form
+    // begins with ("end" for the English words): a line without it holds no
+    // lower-case end word, and those searches are spared.
+    QString lowerPrefix;
+    bool anyLowerDiffers = false;
     QString commentWord; // the COMMENT word exactly as CommandWord holds it
     const Item& comment() const { return items[2]; }
 };
@@ -67,7 +72,10 @@ const EditItemWords::Item* itemOfWord(QStringView word, const EditItemWords& wor
 
 // The end word from the "=" on: in lower case first, then as stored. -1
 // when absent; a mixed-case end word is not found.
-qsizetype endWordFrom(QStringView line, qsizetype equals, const EditItemWords::Item& item);
+qsizetype endWordFrom(QStringView line, qsizetype equals, const EditItemWords::Item& item,
+                      bool lowerPossible = true);
+// False when no lower-case end word can stand in the line.
+bool lowerEndWordPossible(QStringView line, const EditItemWords& words);
 
 // The trimmed text between the "=" and the end word.
 QStringView itemValue(QStringView line, qsizetype equals, qsizetype end);

@@ -1,6 +1,11 @@
 // Small helpers that the editor's conversions share: the lines of a text as
-// a line-by-line reader gives them, and the shape of one item of a line.
+// a line-by-line reader gives them, and the shape of a row's line.
 #pragma once
+
+#include "list/CommandWords.h"
+#include "platform/Basic.h"
+#include "platform/StringGrid.h"
+#include "state/ProgramState.h"
 
 #include <QString>
 #include <QStringList>
@@ -41,6 +46,17 @@ inline void appendItem(QString& line, const QStringList& words, int start, QStri
     line += value;
     line += QLatin1Char(' ');
     line += words.value(start + 1);
+}
+
+// The start of a row's line in every form: the main file, then the WITH
+// item and the DELAY item where the row has them.
+inline void appendLineHead(QString& line, const StringGrid& rows, int row, const QStringList& words)
+{
+    line += rows.view(kColMain, row);
+    if (!rows.view(kColWith, row).isEmpty())
+        appendItem(line, words, kWith, rows.view(kColWith, row));
+    if (basic::TrimView(rows.view(kColDelay, row)) != u"9999")
+        appendItem(line, words, kDelay, rows.view(kColDelay, row));
 }
 
 } // namespace lumen

@@ -163,22 +163,30 @@ std::optional<QString> EditTextModel::CommandRecover()
     for (int row = 0; row <= s.EditRowCount; ++row)
         copyRow(RecoverArray, row, s.EditArray, row);
     basics_.WaitMilliseconds(100);
-    ArrayToStanderdFile();
-    basics_.WaitMilliseconds(100);
-    PutDataFromFileToArray();
-    basics_.WaitMilliseconds(100);
-    const QString text = ArrayToEditorText();
+    const QString text = readBack();
     basics_.services().ui.beep();
     return text;
 }
 
+// Out through TempFile.txt and read back, then the editor text. A file that
+// can't be written isn't read: the arrays stay as they are.
+QString EditTextModel::readBack()
+{
+    if (ArrayToStanderdFile()) {
+        basics_.WaitMilliseconds(100);
+        PutDataFromFileToArray();
+    } else {
+        // The rows stand as the lines would have been read.
+        ProgramState& s = state();
+        StoreInt16(s.EditMaxLineLength, qMax<double>(s.EditMaxLineLength, longestWritten_));
+    }
+    basics_.WaitMilliseconds(100);
+    return ArrayToEditorText();
+}
+
 QString EditTextModel::CommandUpdate()
 {
-    ArrayToStanderdFile();
-    basics_.WaitMilliseconds(100);
-    PutDataFromFileToArray();
-    basics_.WaitMilliseconds(100);
-    const QString text = ArrayToEditorText();
+    const QString text = readBack();
     updatePending_ = false;
     return text;
 }

@@ -71,14 +71,17 @@ public:
     // TempFile.txt into EditArray, EditRowCount and EditMaxLineLength.
     void PutDataFromFileToArray();
     // EditArray into TempFile.txt, the option words translated in place.
-    void ArrayToStanderdFile();
+    // False when the file couldn't be written: the user has been told, and
+    // callers then keep the arrays rather than read an old file back.
+    bool ArrayToStanderdFile();
     // EditArray as standard text for Text1, each line padded.
     QString ArrayToStanderdText();
 
     // ---- The editor text ----
     int recordWidth() const; // EditMaxLineLength + 10
-    // The standard text of Text1 into the arrays and the editor text.
-    QString TextConvertToEditorText(const QString& standardText);
+    // The standard text of Text1 into the arrays and the editor text;
+    // nothing (and EditorOn as it was) when TempFile.txt can't be written.
+    std::optional<QString> TextConvertToEditorText(const QString& standardText);
     // The arrays into the editor text again, mending a last row without delay.
     QString ArrayToEditorText();
     // One row of the editor text as it is shown, before padding.
@@ -149,12 +152,16 @@ public:
 private:
     int selectedRow() const; // EditRow + 1
     QString buildEditorText();
+    void appendEditorLine(QString& out, int row) const;
     void keepCopy();
     EditChange closeChange();
     QString standardLine(int row, const OptionWordTable* table, bool textForm);
+    bool writeTempFile(const QString& text);
+    QString readBack();
 
     VeroProcedure_Basical& basics_;
     bool updatePending_ = false;
+    int longestWritten_ = 0; // the longest line ArrayToStanderdFile made
 };
 
 // The hint texts shown over the buttons while no item is selected.

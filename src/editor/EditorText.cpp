@@ -33,22 +33,24 @@ int EditTextModel::recordWidth() const
     return basics_.state().EditMaxLineLength + 10;
 }
 
-QString EditTextModel::editorLine(int row) const
+void EditTextModel::appendEditorLine(QString& out, int row) const
 {
     const ProgramState& s = basics_.state();
     const StringGrid& a = s.EditArray;
     const QStringList& words = s.CommandWord;
-    QString line = a.at(kColMain, row);
-    if (!a.view(kColWith, row).isEmpty())
-        appendItem(line, words, kWith, a.view(kColWith, row));
-    if (TrimView(a.view(kColDelay, row)) != u"9999")
-        appendItem(line, words, kDelay, a.view(kColDelay, row));
+    appendLineHead(out, a, row, words);
     // A file comment too stands under the COMMENT word, and values go in as
     // they are held: a comment with its line breaks.
     if (!a.view(kColComment, row).isEmpty())
-        appendItem(line, words, kComment, a.view(kColComment, row));
+        appendItem(out, words, kComment, a.view(kColComment, row));
     if (!a.view(kColOption, row).isEmpty())
-        appendItem(line, words, kOption, a.view(kColOption, row));
+        appendItem(out, words, kOption, a.view(kColOption, row));
+}
+
+QString EditTextModel::editorLine(int row) const
+{
+    QString line;
+    appendEditorLine(line, row);
     return line;
 }
 
@@ -59,12 +61,15 @@ QString EditTextModel::buildEditorText()
     QString out;
     out.reserve(qsizetype(s.EditRowCount) * (width + 2));
     for (int row = 1; row <= s.EditRowCount; ++row) {
-        const QString line = editorLine(row);
-        if (line.size() <= width) {
-            out += line;
-            out.resize(out.size() + width - line.size(), QLatin1Char(' '));
+        const qsizetype start = out.size();
+        appendEditorLine(out, row);
+        const qsizetype length = out.size() - start;
+        if (length <= width) {
+            out.resize(start + width, QLatin1Char(' '));
         } else {
             // PadToWidth tells the user and gives nothing: a bare line break.
+            const QString line = out.mid(start);
+            out.truncate(start);
             out += basics_.PadToWidth(line, width);
         }
         out += kCrLf;
@@ -72,10 +77,11 @@ QString EditTextModel::buildEditorText()
     return out;
 }
 
-QString EditTextModel::TextConvertToEditorText(const QString& standardText)
+std::optional<QString> EditTextModel::TextConvertToEditorText(const QString& standardText)
 {
+    if (!writeTempFile(standardText))
+        return std::nullopt;
     state().EditorOn = true;
-    basics_.WriteTextToFile(standardText, tempFile());
     basics_.WaitMilliseconds(100);
     PutDataFromFileToArray();
     return buildEditorText();

@@ -35,7 +35,7 @@ struct EditorFixture : BasicsFixture {
     QString tempText() const { return text::decode(home.readFile(kTempFile)); }
 
     // A list text read by the editor, as TextConvertToEditorText reads it.
-    QString read(const QString& list) { return editor.TextConvertToEditorText(list); }
+    QString read(const QString& list) { return editor.TextConvertToEditorText(list).value_or("?"); }
 
     // The written standard file after reading `list`.
     QString trip(const QString& list)
