@@ -55,6 +55,17 @@ bool isCp932LeadByte(uchar byte)
     return (byte >= 0x81 && byte <= 0x9F) || byte >= 0xE0;
 }
 
+// The bytes that may begin and end a double-byte character of CP932.
+bool isPairLead(uchar byte)
+{
+    return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
+}
+
+bool isPairTrail(uchar byte)
+{
+    return byte >= 0x40 && byte <= 0xFC && byte != 0x7F;
+}
+
 // The longest start of CP932 bytes that fits `width` without halving a
 // double-byte character. The bytes come from encodeCp932, so they are whole.
 QByteArray cutCp932(const QByteArray& bytes, int width)
@@ -124,7 +135,7 @@ QString decode(const QByteArray& bytes)
 
 QString decodeCp932(const QByteArray& bytes)
 {
-    // Every CP932 character and every bad byte gives one UTF-16 unit.
+    // Every CP932 character and every bad byte or pair gives one UTF-16 unit.
     QString text(bytes.size(), Qt::Uninitialized);
     char* const begin = reinterpret_cast<char*>(text.data());
     char* out = begin;
@@ -139,13 +150,17 @@ QString decodeCp932(const QByteArray& bytes)
             break;
         if (outLeft < sizeof(char16_t)) // can't happen, see above; never write past the end
             break;
-        // A byte that isn't CP932, or a lead byte cut off at the end.
+        // A byte that isn't CP932, a lead byte cut off at the end, or a
+        // double-byte pair that maps to no character: one replacement each,
+        // so that the trail byte of a pair ("@" is 40) never stands alone.
         const char16_t replacement = QChar::ReplacementCharacter;
         std::memcpy(out, &replacement, sizeof replacement);
         out += sizeof replacement;
         outLeft -= sizeof replacement;
-        ++in;
-        --inLeft;
+        const std::size_t taken =
+            inLeft >= 2 && isPairLead(uchar(in[0])) && isPairTrail(uchar(in[1])) ? 2 : 1;
+        in += taken;
+        inLeft -= taken;
     }
     text.truncate((out - begin) / qsizetype(sizeof(char16_t)));
     return text;

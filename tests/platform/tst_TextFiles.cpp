@@ -55,6 +55,11 @@ private Q_SLOTS:
         QTest::newRow("BOM before ASCII") << kBom + "a\r\n" << u"a\r\n"_s;
         QTest::newRow("lone lead byte at the end") << hex("41 81") << u"A"_s + bad;
         QTest::newRow("lead byte with bad trail") << hex("81 20 41") << bad + u" A"_s;
+        // Row 85 of the double-byte table is empty: the pair is one bad
+        // character, and its trail byte no "@".
+        QTest::newRow("unmapped pair") << hex("85 40 41") << bad + u"A"_s;
+        QTest::newRow("unmapped pair before a character")
+            << hex("85 9F 83 74") << bad + u"フ"_s;
         QTest::newRow("bad byte between characters")
             << hex("83 74 FF 83 40 A0 83 43") << u"フ"_s + bad + u"ァ"_s + bad + u"イ"_s;
     }
