@@ -122,7 +122,7 @@ void ModuleStartWithFile::BuildStartList()
     FileSystem& fs = basics_.services().fs;
     const QString positionsFile = fs.toNative(programRunFile(kNamePositions));
     const QStringList lines = text::splitLines(
-        positionsFile.isEmpty() ? QString() : readTextFile(positionsFile).value_or(QString()));
+        positionsFile.isEmpty() ? QString() : readSettingsFile(positionsFile).value_or(QString()));
     const auto stop = [this] { return stopRequested(); };
 
     QString list;
