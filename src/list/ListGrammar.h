@@ -1,6 +1,9 @@
 // The grammar of a list line: a main file, then items "@WORD=value ENDWORD"
 // for the companion file, the delay, the comment or comment file and the
-// option word. Words are those of CommandWord at load time.
+// option word. Words are those of CommandWord at load time. An "@" whose word
+// (up to the next "=") is no start word ends the items of the line, as the
+// list editor reads it too; the items before it stay. Parsing takes time in
+// proportion to the length of the line, whatever the line holds.
 #pragma once
 
 #include <QString>
@@ -50,6 +53,7 @@ struct ListWords {
     // lower-case end word, and those searches are spared.
     QString lowerPrefix;
     bool anyLowerDiffers = false;
+    qsizetype longestStart = 0; // the longest start word in capitals
 };
 
 // A parsed line as views into the line (the comment, which is changed, into
