@@ -1,6 +1,7 @@
 #include "platform/TextCodec.h"
 
 #include <QByteArrayView>
+#include <QStringDecoder>
 #include <QSysInfo>
 
 #include <algorithm>
@@ -126,8 +127,12 @@ const std::vector<bool>& cp932Image()
 
 QString decode(const QByteArray& bytes)
 {
-    if (bytes.startsWith(kUtf8Bom))
-        return QString::fromUtf8(QByteArrayView(bytes).sliced(kUtf8Bom.size()));
+    if (bytes.startsWith(kUtf8Bom)) {
+        // One mark is the file's; a second is a character of the text
+        // (fromUtf8 would drop it too).
+        QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+        return utf8(QByteArrayView(bytes).sliced(kUtf8Bom.size()));
+    }
     if (QByteArrayView(bytes).isValidUtf8()) // pure ASCII too: it reads the same either way
         return QString::fromUtf8(bytes);
     return decodeCp932(bytes);
