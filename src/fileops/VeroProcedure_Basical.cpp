@@ -15,6 +15,7 @@
 #include <QFileInfo>
 
 #include <cmath>
+#include <limits>
 
 namespace lumen {
 namespace {
@@ -466,8 +467,17 @@ int VeroProcedure_Basical::CleanListFile(const QString& path, QString* cleanedTe
 
 void VeroProcedure_Basical::WaitMilliseconds(double milliseconds)
 {
+    // A length that is no number waits nothing; one beyond any clock waits
+    // until the program ends.
     Clock& clock = services_.clock;
-    const qint64 target = clock.tickCount() + qint64(std::ceil(milliseconds));
+    const qint64 now = clock.tickCount();
+    const double length = std::ceil(milliseconds);
+    const qint64 longest = std::numeric_limits<qint64>::max() - now;
+    qint64 target = now;
+    if (length >= double(longest))
+        target = std::numeric_limits<qint64>::max();
+    else if (length > 0)
+        target = now + qint64(length);
     clock.waitUntil(target);
 }
 

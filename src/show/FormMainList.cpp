@@ -198,14 +198,18 @@ void FormMain::LabelDo_Click()
 void FormMain::TextCount_Change()
 {
     ScrollGuard = true;
-    const int page = int(Val(TextCount->text()));
+    qint16 page = 0;
+    if (!StoreInt16(page, Val(TextCount->text())))
+        return; // a number that doesn't fit the page bar is passed over
     HScrollPicNom->setValue(page);
     showNavigatorPage(page);
 }
 
 void FormMain::TextTotal_Change()
 {
-    HScrollPicNom->setMaximum(int(Val(TextTotal->text())));
+    qint16 total = 0;
+    if (StoreInt16(total, Val(TextTotal->text())))
+        HScrollPicNom->setMaximum(total);
 }
 
 void FormMain::TextHeadName_Change()

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 
 #include <sys/wait.h>
@@ -184,6 +185,23 @@ private Q_SLOTS:
                          FETCH(QByteArray, allowance));
         a.app->Main();
         QCOMPARE(a.app->state().PictureSizeAllowVal, FETCH(int, expected));
+    }
+
+    // Typed into the page boxes: a number the page bar can't hold is passed
+    // over, and the bar stays.
+    void typedNumbersThatDontFitArePassedOver()
+    {
+        App a;
+        a.openList({a.home.picture(u"a.png"_s), a.home.picture(u"b.png"_s)});
+        QScrollBar* bar = a.main().HScrollPicNom;
+        const int value = bar->value();
+        const int maximum = bar->maximum();
+        for (const QString& typed : {u"1e400"_s, u"99999"_s, u"-1e400"_s}) {
+            a.main().TextCount->setText(typed);
+            a.main().TextTotal->setText(typed);
+            QCOMPARE(bar->value(), value);
+            QCOMPARE(bar->maximum(), maximum);
+        }
     }
 };
 
