@@ -14,6 +14,7 @@ using namespace basic;
 
 const QString kCommentMark = QStringLiteral("<<<<<");
 constexpr int kMostLeadingBlanks = 20;
+constexpr qsizetype kStopStride = 1 << 16; // characters between two looks at the stop
 
 struct ItemKind {
     int start;       // index of the start word
@@ -187,7 +188,8 @@ ParsedLine parseListLine(QStringView line, const ListWords& words)
     return parsed;
 }
 
-void parseListLineViews(QStringView line, const ListWords& words, ListRowViews& row)
+void parseListLineViews(QStringView line, const ListWords& words, ListRowViews& row,
+                        const std::function<bool()>& stop)
 {
     const QStringView view = line;
     const qsizetype firstAt = view.indexOf(QLatin1Char('@'));
@@ -204,10 +206,16 @@ void parseListLineViews(QStringView line, const ListWords& words, ListRowViews& 
     // does.
     EndWordFinder ends[std::size(kItems)];
     qsizetype from = 0;
+    qsizetype asked = 0;
     for (;;) {
         const qsizetype at = view.indexOf(QLatin1Char('@'), from);
         if (at < 0)
             break;
+        if (stop && at - asked >= kStopStride) {
+            asked = at;
+            if (stop())
+                break;
+        }
         const qsizetype equals = view.indexOf(QLatin1Char('='), at);
         if (equals < 0)
             break;

@@ -10,6 +10,8 @@
 #include <QStringList>
 #include <QStringView>
 
+#include <functional>
+
 namespace lumen {
 
 struct ListRow {
@@ -67,7 +69,10 @@ struct ListRowViews {
     QString commentText; // holds the stored form of an inline comment
     QString missingEndWord;
 };
-void parseListLineViews(QStringView line, const ListWords& words, ListRowViews& row);
+// `stop`, when given, is asked every 64K characters of a long line: true
+// ends the parse there (the loader's stop, which pumps events as it asks).
+void parseListLineViews(QStringView line, const ListWords& words, ListRowViews& row,
+                        const std::function<bool()>& stop = {});
 
 // Parses one command line with the words of `commandWord` (index 1 to 34).
 ParsedLine parseListLine(QStringView line, const QStringList& commandWord);

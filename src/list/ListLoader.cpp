@@ -66,6 +66,11 @@ ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int c
     state.ListFileName = workingCopyName(basics);
 
     const ListWords words(state.CommandWord);
+    // Within a long line too, events run and a stop acts.
+    const auto stop = [&basics, &state] {
+        basics.DoEvents();
+        return state.StopRequested;
+    };
     ListFill fill;
     QString display;
     if (withDisplayText)
@@ -100,7 +105,11 @@ ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int c
             break;
         }
         ListRowViews parsed;
-        parseListLineViews(line, words, parsed);
+        parseListLineViews(line, words, parsed, stop);
+        if (state.StopRequested) {
+            fill.stopped = true;
+            return fill;
+        }
         setRow(state.ListArray, fill.fileCount, parsed);
         if (!parsed.missingEndWord.isEmpty())
             basics.services().ui.msgBox(parsed.missingEndWord);

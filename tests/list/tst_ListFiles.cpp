@@ -59,6 +59,7 @@ private Q_SLOTS:
     void load();
     void loaderGuardsTheCount();
     void loaderStopsOnRequest();
+    void loaderStopsWithinALongLine();
     void readOnlyWorkingFolderReadsTheChosenList();
     void listViewCutsLongLines();
 };
@@ -369,6 +370,23 @@ void TestListFiles::loaderStopsOnRequest()
     QVERIFY(fill.stopped);
     QCOMPARE(f.state.ListArray.at(kColMain, 99), QStringLiteral("C:\\p99.jpg"));
     QCOMPARE(f.state.ListArray.at(kColMain, 100), QString());
+}
+
+// A list of one line of 66,000 items: events run while it is parsed, and a
+// stop pressed then ends the load there.
+void TestListFiles::loaderStopsWithinALongLine()
+{
+    BasicsFixture f;
+    f.home.writeFile("s.lst",
+                     "C:\\a.jpg" + QByteArray(" @WITH=x ENDWITH").repeated(66000) + "\r\n");
+    QString text;
+    const int count = prepareWorkingCopy(f.basics, QStringLiteral("C:\\s.lst"), &text);
+    f.clock.doEventsCount = 0;
+    f.clock.onDoEvents = [&] { f.state.StopRequested = true; };
+    const ListFill fill = fillListArray(f.basics, text, count);
+    QVERIFY(fill.stopped);
+    QCOMPARE(f.clock.doEventsCount, 1);
+    QCOMPARE(f.state.ListArray.at(kColMain, 1), QString());
 }
 
 // The copy to TempList.Lst fails in a read-only settings folder: the list
