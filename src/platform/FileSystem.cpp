@@ -1,17 +1,19 @@
 #include "platform/FileSystem.h"
 
 #include "platform/FolderIndex.h"
+#include "platform/RegularFile.h"
+#include "platform/SafeFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QStringDecoder>
 
 #include <algorithm>
-#include <cstdio>
+#include <cerrno>
 #include <filesystem>
+#include <sys/sendfile.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -45,6 +47,8 @@ bool hasWildcards(const QString& name)
 {
     return name.contains(u'*') || name.contains(u'?');
 }
+
+constexpr std::size_t kCopyChunk = 1 << 24;
 
 bool isDriveSpec(const QString& text)
 {
@@ -91,19 +95,32 @@ QString findIgnoringCase(const QString& folder, const QString& name)
     return best;
 }
 
-// The bytes of the file `source` into the new file `staged`, with the
-// source's mode bits; the kernel copies (sendfile). A failed copy leaves no
-// staged file.
-bool copyBytes(const QString& source, const QString& staged)
+// The bytes of the regular file `source` into a file staged for `target`,
+// with the source's mode bits, renamed over the target when complete; the
+// kernel copies (sendfile). Anything but a regular file is never opened.
+bool copyBytes(const QString& source, const QString& target)
 {
-    const std::filesystem::path to(QFile::encodeName(staged).constData());
-    std::error_code error;
-    std::filesystem::remove(to, error); // a leftover of a copy that was cut short
-    std::filesystem::copy_file(QFile::encodeName(source).constData(), to, error);
-    if (!error)
-        return true;
-    std::filesystem::remove(to, error);
-    return false;
+    QFile from;
+    if (!openRegularFile(from, source))
+        return false;
+    StagedFile to(target, Durability::Quick);
+    if (!to.isOpen())
+        return false;
+    struct stat status {};
+    if (::fstat(from.handle(), &status) == 0)
+        to.setMode(status.st_mode & 07777);
+    for (;;) {
+        const ssize_t sent = ::sendfile(to.descriptor(), from.handle(), nullptr, kCopyChunk);
+        if (sent < 0 && errno == EINTR)
+            continue;
+        if (sent < 0) {
+            to.fail();
+            return false;
+        }
+        if (sent == 0)
+            break;
+    }
+    return to.commit();
 }
 
 // The entry of `folder` called `name`, exactly or else ignoring case.
@@ -335,18 +352,12 @@ QString FileSystem::toNative(const QString& programPath) const
 void FileSystem::loadDrivesFile(const QString& nativeFolder)
 {
     const QString fileName = QDir(nativeFolder).filePath(QStringLiteral("Drives.txt"));
-    if (!QFileInfo::exists(fileName)) {
-        QSaveFile out(fileName);
-        if (out.open(QIODevice::WriteOnly)) {
-            out.write(DriveMap::defaultDrivesText().toUtf8());
-            out.commit();
-        }
-    }
+    if (pathKind(fileName) == PathKind::Missing)
+        writeFileSafely(fileName, DriveMap::defaultDrivesText().toUtf8());
     DriveMap drives(drives_.home());
-    QFile in(fileName);
-    if (in.open(QIODevice::ReadOnly)) {
+    if (const auto bytes = readRegularFile(fileName, kSettingsFileLimit)) {
         QStringDecoder decode(QStringDecoder::Utf8);
-        drives.addFromText(decode(in.readAll()));
+        drives.addFromText(decode(*bytes));
     }
     drives_ = drives;
 }
@@ -447,6 +458,13 @@ bool FileSystem::isLink(const QString& programPath) const
     return !native.isEmpty() && QFileInfo(native).isSymLink();
 }
 
+bool FileSystem::isSpecialFile(const QString& programPath) const
+{
+    const QString native = toNative(programPath);
+    return !native.isEmpty() && pathKind(native) == PathKind::Other &&
+           !isHiddenName(QFileInfo(native).fileName());
+}
+
 qint64 FileSystem::fileLength(const QString& programPath) const
 {
     const QString native = toNative(programPath);
@@ -531,20 +549,10 @@ bool FileSystem::copyFile(const QString& from, const QString& to)
     const QString target = toNative(to);
     if (source.isEmpty() || target.isEmpty())
         return false;
-    // Copied to a hidden file beside the target, then renamed over it: the
-    // target is never half-written. A source that is no file fails the copy,
-    // a target that is a folder fails the rename.
-    const QFileInfo targetInfo(target);
-    const QString staged = targetInfo.path() + QStringLiteral("/.") + targetInfo.fileName() +
-                           QStringLiteral(".%1.copy").arg(::getpid());
-    if (!copyBytes(source, staged))
-        return false;
-    if (::rename(QFile::encodeName(staged).constData(), QFile::encodeName(target).constData()) !=
-        0) {
-        ::unlink(QFile::encodeName(staged).constData());
-        return false;
-    }
-    return true;
+    // Staged beside the target, then renamed over it: the target is never
+    // half-written. A source that is no regular file fails the copy, and so
+    // does a target that is a folder or anything but a regular file.
+    return copyBytes(source, target);
 }
 
 bool FileSystem::renameFile(const QString& from, const QString& to)

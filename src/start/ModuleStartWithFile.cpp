@@ -122,7 +122,7 @@ void ModuleStartWithFile::BuildStartList()
     FileSystem& fs = basics_.services().fs;
     const QString positionsFile = fs.toNative(programRunFile(kNamePositions));
     const QStringList lines = text::splitLines(
-        positionsFile.isEmpty() ? QString() : readTextFile(positionsFile).value_or(QString()));
+        positionsFile.isEmpty() ? QString() : readSettingsFile(positionsFile).value_or(QString()));
     const auto stop = [this] { return stopRequested(); };
 
     QString list;
@@ -132,8 +132,10 @@ void ModuleStartWithFile::BuildStartList()
             continue;
         if (stopRequested())
             break;
-        const int first = int(Val(fields.at(1)));
-        const int last = int(Val(fields.at(2)));
+        qint32 first = 0; // a position that doesn't fit is passed over
+        qint32 last = 0;
+        StoreInt32(first, Val(fields.at(1)));
+        StoreInt32(last, Val(fields.at(2)));
         if (first < 1 || last < first)
             continue;
         const QString name = Mid(commandLineText_, first, last - first + 1);
