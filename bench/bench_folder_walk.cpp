@@ -70,7 +70,7 @@ int main(int argc, char** argv)
     timer.start();
     int polls = 0;
     const FolderWalkResult result =
-        walkFolderTree(fs, QStringLiteral("C:\\"), {}, [&polls] { return ++polls < 0; });
+        walkFolderTree(fs, QStringLiteral("C:\\"), {}, {.stop = [&polls] { return ++polls < 0; }});
     const qint64 walk = timer.nsecsElapsed();
 
     std::printf("folders %d, files %lld (plain walk: %lld)\n", result.folderCount,
