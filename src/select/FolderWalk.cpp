@@ -10,13 +10,6 @@ namespace lumen {
 
 namespace {
 
-QString joinPath(const QString& folder, const QString& name)
-{
-    if (folder.endsWith(u'\\'))
-        return folder + name;
-    return folder + u'\\' + name;
-}
-
 QString collapseBackslashes(QString path)
 {
     static const QRegularExpression runs(QStringLiteral("\\\\{2,}"));
@@ -97,6 +90,13 @@ QString FolderWalkResult::listText() const
     return text;
 }
 
+QString joinFolderAndName(const QString& folder, const QString& name)
+{
+    if (folder.endsWith(u'\\'))
+        return folder + name;
+    return folder + u'\\' + name;
+}
+
 bool staysOneMainFile(const QString& path)
 {
     if (path.contains(u'\r') || path.contains(u'\n'))
@@ -133,14 +133,14 @@ FolderWalkResult walkFolderTree(const FileSystem& fs, const QString& top,
         for (const QString& name : listing.files) {
             if (stopNow())
                 return result;
-            const QString path = joinPath(folder, name);
+            const QString path = joinFolderAndName(folder, name);
             if (staysOneMainFile(path) && filter.keeps(path, name))
                 result.files.append(path);
         }
         if (hooks.folderListed)
             hooks.folderListed(folder, result.files.mid(first));
         for (const QString& name : listing.folders) {
-            const QString path = joinPath(folder, name);
+            const QString path = joinFolderAndName(folder, name);
             if (!skipped.contains(path))
                 levels.add(path);
         }

@@ -72,6 +72,9 @@ FolderWalkResult walkFolderTree(const FileSystem& fs, const QString& top,
                                 const FolderWalkOptions& options = {},
                                 const FolderWalkHooks& hooks = {});
 
+// A folder and a name joined by "\", unless the folder ends in one.
+QString joinFolderAndName(const QString& folder, const QString& name);
+
 // A path that a line of a list holds as one main file, whole: no line break
 // in it, and not both an "@" and a "=" (with both, the line would be read as
 // a main file followed by items).
