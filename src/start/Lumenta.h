@@ -17,6 +17,7 @@
 namespace lumen {
 
 class FormMain;
+class FormSelectFile;
 class FormStop;
 class ModuleStartWithFile;
 
@@ -51,6 +52,9 @@ private:
     void registerForms();
     void registerShowForms();
     void registerAutoPageForms(); // LumentaShowForms.cpp
+    void registerSelectForms();   // LumentaSelectForms.cpp
+    FormSelectFile& selectFile(); // made and loaded
+    void wireDropOnOpenFileList(FormMain& main);
     SetTargets setTargets();
     void openOneFile(const QString& file);
     void readSmallSettingsFiles();
