@@ -72,13 +72,7 @@ void FormRClick2::showAtOnce(const QString& found)
         text.chop(2); // the write puts the last line end back
     basics_.WriteTextToFile(text, list);
     select_.SaveLockInfo();
-    const FormSelectFileLinks& links = select_.links;
-    if (links.showMain)
-        links.showMain();
-    if (links.clearDisplay)
-        links.clearDisplay(QString());
-    if (links.openFileList)
-        links.openFileList(list);
+    select_.ShowListOnMain(list);
 }
 
 void FormRClick2::CommandCheckAndSelect_Click()

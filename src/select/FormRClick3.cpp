@@ -85,16 +85,10 @@ void FormRClick3::CommandOpen_Click()
     }
     const QString list = dropListName(basics_);
     basics_.WriteTextToFile(file, list);
-    const FormSelectFileLinks& links = select_.links;
-    if (links.clearDisplay)
-        links.clearDisplay(QString());
     // The main window comes forward in place of the selection window.
     select_.hide();
     hide();
-    if (links.showMain)
-        links.showMain();
-    if (links.openFileList)
-        links.openFileList(list);
+    select_.ShowListOnMain(list);
 }
 
 void FormRClick3::CommandOpenEdit_Click()

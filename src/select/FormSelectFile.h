@@ -145,6 +145,8 @@ public:
     // named on the command line is: FileSelectQuick with "", "INC", "DIR".
     // The files, one an entry; nothing for a folder that isn't there.
     QStringList ListFolder(const QString& folder);
+    // The main window in front, its display cleared, showing the list file.
+    void ShowListOnMain(const QString& file);
     // RefreshFileControls: the three boxes read the disk again.
     void RefreshBoxes();
 

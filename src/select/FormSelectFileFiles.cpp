@@ -89,6 +89,11 @@ void FormSelectFile::CommandSaveFile_Click()
     if (!CheckAddToList->isChecked())
         return;
     SaveLockInfo();
+    ShowListOnMain(file);
+}
+
+void FormSelectFile::ShowListOnMain(const QString& file)
+{
     if (links.showMain)
         links.showMain();
     if (links.clearDisplay)

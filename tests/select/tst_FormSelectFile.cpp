@@ -24,10 +24,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kOld = u"C:\\old.jpg\r\n"_s;
-// The walk of C:\pics: the top folder, then a and b, then a\deep; the
-// dot-folder, the link back to the top and the split name are left out.
-const QString kTree = underPics(
-    {"notes.txt", "tall.png", "wide.jpg", "a\\one.jpg", "b\\two.txt", "a\\deep\\three.jpg"});
 
 } // namespace
 

@@ -26,8 +26,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kNothingChosen = u"対象となるファイルが選択されていません"_s;
-const QString kTree = underPics(
-    {"notes.txt", "tall.png", "wide.jpg", "a\\one.jpg", "b\\two.txt", "a\\deep\\three.jpg"});
 
 // A folder that no one can write into, root included (the immutable flag
 // where the file system has it); false when it can't be made so.
