@@ -55,6 +55,7 @@ private:
     void registerSelectForms();   // LumentaSelectForms.cpp
     FormSelectFile& selectFile(); // made and loaded
     void wireDropOnOpenFileList(FormMain& main);
+    QList<QWidget*> selectEditTextControls(); // the selection's boxes, once it is made
     SetTargets setTargets();
     void openOneFile(const QString& file);
     void readSmallSettingsFiles();

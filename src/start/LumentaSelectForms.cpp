@@ -4,17 +4,21 @@
 // that RefreshFileControls reads again.
 #include "display/PopupSupport.h"
 #include "platform/Basic.h"
+#include "platform/FileBoxes.h"
 #include "platform/Twips.h"
 #include "select/FormGiveFilter.h"
 #include "select/FormRClick2.h"
 #include "select/FormRClick3.h"
 #include "select/FormSelectFile.h"
+#include "select/RichTextBox.h"
 #include "select/SelectionFiles.h"
 #include "show/FormMain.h"
 #include "start/Lumenta.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QScrollBar>
 
 namespace lumen {
@@ -82,6 +86,15 @@ void Lumenta::registerSelectForms()
         links.takeMainAction = [this] { formMain().TakeMainAction(); };
         return filter;
     });
+}
+
+QList<QWidget*> Lumenta::selectEditTextControls()
+{
+    // The edit text's font shows at once in the selection's boxes and text.
+    auto* select = static_cast<FormSelectFile*>(forms_.existing(kFormSelectFile));
+    if (!select)
+        return {};
+    return {select->Drive1, select->Dir1, select->File1, select->Text1};
 }
 
 void Lumenta::wireDropOnOpenFileList(FormMain& main)

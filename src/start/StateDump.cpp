@@ -72,7 +72,8 @@ QString StateDump::text() const
                      .arg(place.width())
                      .arg(place.height());
         for (const char* name : {"CommandFull", "CommandOption", "CommandExit", "CommandStart",
-                                 "CommandStop", "CommandToNormalSize"}) {
+                                 "CommandStop", "CommandToNormalSize", "CommandSelectFile",
+                                 "CheckQuiCkWork", "CommandAll", "CommandSaveFile"}) {
             const auto* button = window->findChild<QWidget*>(QString::fromLatin1(name));
             if (!button || !button->isVisible() || button->window() != window)
                 continue;

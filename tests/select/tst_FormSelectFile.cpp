@@ -57,6 +57,10 @@ void TestFormSelectFile::loadSetsTheBoxes()
     for (int i = 0; i < captions.size(); ++i)
         QCOMPARE(f.select->Check1[size_t(i)]->text(), captions.at(i));
     QCOMPARE(backColor(f.select->ShapeAddToList), kColorGreen);
+    // The folder goes to the desktop's file manager (xdg-open), never a shell.
+    f.click("CommandExploler");
+    QCOMPARE(f.launcher.opened, QStringList{"C:\\pics"});
+    QVERIFY(f.launcher.commandLines.isEmpty());
     f.click("CheckAddToList");
     QCOMPARE(backColor(f.select->ShapeAddToList), kColorGrey);
     saveShot(f.select, "FormSelectFile");
