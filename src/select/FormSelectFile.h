@@ -141,6 +141,9 @@ public:
     bool FileSelectQuick(const QString& word, const QString& includeMode, const QString& target,
                          QString& result);
     void SaveLockInfo();
+    // A folder's files, as a walk found them (filtered by its word when it
+    // has one), into the next piece of ChunkTable.
+    void ListOneFolder(const QStringList& files);
     // Dir1 set to the folder and its tree listed, as a dropped folder or one
     // named on the command line is: FileSelectQuick with "", "INC", "DIR".
     // The files, one an entry; nothing for a folder that isn't there.

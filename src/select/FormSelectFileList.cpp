@@ -33,8 +33,9 @@ const QString kCrLf = QStringLiteral("\r\n");
 constexpr qint64 kPumpMs = 15;
 // The list text shows the progress this often.
 constexpr qint64 kShowMs = 100;
-// Names a piece of CommandAll.
+// Names a piece of CommandAll, and a part of a folder's piece in a walk.
 constexpr int kAllPieceNames = 15;
+constexpr int kFolderPartNames = 50;
 
 } // namespace
 
@@ -139,6 +140,25 @@ void FormSelectFile::CommandAll_Click()
     walking_ = false;
 }
 
+void FormSelectFile::ListOneFolder(const QStringList& files)
+{
+    // Built in parts of 50 names, each shown as it fills, then joined.
+    QStringList parts;
+    QString part;
+    int inPart = 0;
+    for (const QString& file : files) {
+        part += file + kCrLf;
+        showProgress(part);
+        if (++inPart == kFolderPartNames) {
+            parts.append(std::exchange(part, QString()));
+            inPart = 0;
+        }
+    }
+    parts.append(part);
+    ChunkTable.append(parts.join(QString()));
+    ++ChunkCount;
+}
+
 bool FormSelectFile::FileSelectQuick(const QString& word, const QString& includeMode,
                                      const QString& target, QString& result)
 {
@@ -163,14 +183,7 @@ bool FormSelectFile::FileSelectQuick(const QString& word, const QString& include
     FolderWalkHooks hooks;
     hooks.stop = [this] { return listingShouldStop(); };
     hooks.pattern = [this] { return filterPattern(); };
-    hooks.folderListed = [this](const QString&, const QStringList& files) {
-        QString piece;
-        for (const QString& file : files)
-            piece += file + kCrLf;
-        ChunkTable.append(piece);
-        ++ChunkCount;
-        showProgress(piece);
-    };
+    hooks.folderListed = [this](const QString&, const QStringList& files) { ListOneFolder(files); };
     lastPump_ = lastShown_ = basics_.services().clock.tickCount();
     const FolderWalkResult walk =
         walkFolderTree(basics_.services().fs, Dir1->path(), options, hooks);
