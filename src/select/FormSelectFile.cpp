@@ -409,14 +409,12 @@ void FormSelectFile::applyRecordLook()
         CheckAddToList, CheckLumenta, CheckANY, CheckExtWork, CheckDirectryLock};
     for (QCheckBox* box : Check1)
         controls.append(box);
-    for (QWidget* control : std::as_const(controls)) {
-        const bool small = control == ComboWordSerch || control == TextSerchEXT;
-        control->setFont(fontFrom(control->font(), family, small ? 9 : size));
-    }
     // The edit text's colours: the first field is the ground, the second the letters.
     const QString ground = FixedText(record.DispFontColor);
     const QString letters = FixedText(record.DispBackColor);
-    for (QWidget* control : std::initializer_list<QWidget*>{Dir1, File1, Text1}) {
+    for (QWidget* control : std::as_const(controls)) {
+        const bool small = control == ComboWordSerch || control == TextSerchEXT;
+        control->setFont(fontFrom(control->font(), family, small ? 9 : size));
         if (IsNumeric(ground))
             setBackColor(control, bgrFromText(ground));
         if (IsNumeric(letters))

@@ -33,6 +33,11 @@ struct SelectFixture : BasicsFixture {
         home.writeFile(kRun + "ExtType.dat",
                        "'slots\r\nJPG =\r\nPNG =\r\nTXT = TEXT\r\nno equals\r\nC =\r\n");
         home.writeFile(kRun + "AccessPass.dat", "C:\\pics\r\n");
+        // The edit text's look as a first start leaves it.
+        state.DirecData.DispFontName = QStringLiteral("MS UI Gothic");
+        state.DirecData.DispFontSize = QStringLiteral("9");
+        state.DirecData.DispFontColor = QStringLiteral("&HF4C657");
+        state.DirecData.DispBackColor = QStringLiteral("&H80000008");
         home.picture("pics/wide.jpg", 80, 40, QColor(200, 0, 0));
         home.picture("pics/tall.png", 40, 80, QColor(0, 0, 200));
         home.writeFile("pics/notes.txt", "x");
