@@ -64,6 +64,16 @@ void TestFormSelectFile::loadSetsTheBoxes()
     f.click("CheckAddToList");
     QCOMPARE(backColor(f.select->ShapeAddToList), kColorGrey);
     saveShot(f.select, "FormSelectFile");
+
+    // Its frame's close only hides it, so the text stays; an unload keeps the
+    // text in SelectFile.txt, and the next load begins empty.
+    f.select->close();
+    QVERIFY(!f.select->isVisible() && f.select->isLoaded());
+    QCOMPARE(f.text(), u"C:\\old.jpg\r\n"_s);
+    f.select->unload();
+    QCOMPARE(f.home.readFile(kRun + "SelectFile.txt"), QByteArray("C:\\old.jpg\r\n\r\n"));
+    f.select->load();
+    QCOMPARE(f.text(), QString());
 }
 
 void TestFormSelectFile::clicksBuildTheText_data()
