@@ -45,7 +45,8 @@ private Q_SLOTS:
 void TestFormSelectPopups::deleteAndRecover_data()
 {
     // Steps: "del <name>" (the name clicked, then CommandDel1), "recover",
-    // "record <line>" (DelTempFName.txt written as given).
+    // "record <line>" (DelTempFName.txt written as given), "new <name>" (a
+    // file made).
     QTest::addColumn<QStringList>("steps");
     QTest::addColumn<QStringList>("present"); // under C:\pics afterwards
     QTest::addColumn<bool>("undoLeft");       // the copy and the record are still there
@@ -62,6 +63,10 @@ void TestFormSelectPopups::deleteAndRecover_data()
                        "record C:\\Lumentas\\ForProgramRun_KDR\\DelTempF.jpg,C:\\pics\\wide.jpg",
                        "recover"}
         << all << false;
+    QTest::newRow("a name without a dot gets no copy and stays")
+        << QStringList{"new README", "del README"}
+        << QStringList{"notes.txt", "README", "tall.png", "wide.jpg", "x.png @WITH=y.wav ENDWITH"}
+        << false;
     QTest::newRow("a copy that can't go back stays")
         << QStringList{"del wide.jpg",
                        "record "
@@ -79,6 +84,9 @@ void TestFormSelectPopups::deleteAndRecover()
         if (step.startsWith(u"del ")) {
             f.clickFile(step.mid(4));
             popup->CommandDel1->click();
+        } else if (step.startsWith(u"new ")) {
+            f.home.writeFile("pics/" + step.mid(4), "x");
+            f.select->File1->refresh();
         } else if (step.startsWith(u"record ")) {
             f.home.writeFile(kUndoRecord, step.mid(7).toLatin1() + "\r\n");
         } else {

@@ -64,20 +64,6 @@ private Q_SLOTS:
         QCOMPARE(record.original, FETCH(QString, original));
         QCOMPARE(record.copy, FETCH(QString, copy));
     }
-
-    void undoCopyName_data()
-    {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("copy");
-        QTest::newRow("after the first dot of the name") << "C:\\a.d\\pic.tar.gz"
-                                                         << "R\\DelTempF.tar.gz";
-        QTest::newRow("no dot: no copy") << "C:\\a.d\\README"
-                                         << "";
-    }
-    void undoCopyName()
-    {
-        QCOMPARE(lumen::undoCopyName("R", FETCH(QString, file)), FETCH(QString, copy));
-    }
 };
 
 QTEST_GUILESS_MAIN(TestSelectionLogic)
