@@ -118,7 +118,7 @@ inline QString underPics(const QStringList& names)
 
 // The walk of C:\pics: the top folder, then a and b, then a\deep; the
 // dot-folder, the link back to the top and the split name are left out.
-inline const QString kTree = underPics({"notes.txt", "tall.png", "wide.jpg", "a\\one.jpg",
-                                        "b\\two.txt", "a\\deep\\three.jpg"});
+inline const QString kTree = underPics(
+    {"notes.txt", "tall.png", "wide.jpg", "a\\one.jpg", "b\\two.txt", "a\\deep\\three.jpg"});
 
 } // namespace lumen::test
