@@ -12,6 +12,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
 #include <filesystem>
 #include <sys/sendfile.h>
 #include <sys/stat.h>
@@ -62,12 +65,13 @@ bool existsOrLink(const QString& native)
     return ::lstat(QFile::encodeName(native).constData(), &status) == 0;
 }
 
-// A name the program form can spell holds no "\". Names whose bytes aren't
+// A name the program form can spell holds no "\", and no line break, which
+// no line of a list or a settings file could hold. Names whose bytes aren't
 // UTF-8 decode to U+FFFD and so name no file: the type filters of the
 // listings (files, folders) leave them out already.
 bool fitsProgramForm(const QString& name)
 {
-    return !name.contains(kSeparator);
+    return !name.contains(kSeparator) && !name.contains(u'\r') && !name.contains(u'\n');
 }
 
 bool lessInByteOrder(const QString& a, const QString& b)
@@ -154,22 +158,101 @@ QRegularExpression wildcardPattern(const QString& pattern)
                               QRegularExpression::CaseInsensitiveOption);
 }
 
+// Names against a set of patterns; "*" and "*.*" match every name without
+// the cost of an expression.
+class NameMatcher {
+public:
+    explicit NameMatcher(const QStringList& patterns)
+    {
+        for (const QString& pattern : patterns) {
+            const QString wanted = pattern.isEmpty() ? QStringLiteral("*") : pattern;
+            if (wanted == u"*" || wanted == u"*.*")
+                all_ = true;
+            else
+                expressions_.append(wildcardPattern(wanted));
+        }
+    }
+    bool matches(const QString& name) const
+    {
+        return all_ || std::any_of(expressions_.cbegin(), expressions_.cend(),
+                                   [&name](const auto& e) { return e.match(name).hasMatch(); });
+    }
+
+private:
+    bool all_ = false;
+    QList<QRegularExpression> expressions_;
+};
+
 QStringList sortedForListing(QStringList names)
 {
     std::sort(names.begin(), names.end(), listingLess);
     return names;
 }
 
+// A name as readdir gives it, when it is UTF-8.
+bool decodeEntryName(const char* raw, QString& name)
+{
+    const QByteArrayView bytes(raw);
+    if (std::all_of(bytes.begin(), bytes.end(), [](char c) { return uchar(c) < 0x80; })) {
+        name = QString::fromLatin1(bytes);
+        return true;
+    }
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    name = decoder(bytes);
+    return !decoder.hasError();
+}
+
+// The entries of a native folder, unsorted: normal files (links to them
+// included) and folders (real ones and links apart). Hidden names, names
+// that aren't UTF-8 or that the program form can't spell, links whose
+// target is gone, devices, pipes and sockets are left out. One readdir,
+// and a stat only where the entry's type doesn't tell (links).
+struct FolderEntries {
+    QStringList files;
+    QStringList folders;
+    QStringList linkedFolders;
+};
+
+std::optional<FolderEntries> readFolder(const QString& nativeFolder)
+{
+    DIR* folder = ::opendir(QFile::encodeName(nativeFolder).constData());
+    if (!folder)
+        return std::nullopt;
+    FolderEntries entries;
+    const int fd = ::dirfd(folder);
+    QString name;
+    while (const dirent* entry = ::readdir(folder)) {
+        if (entry->d_name[0] == '.' || !decodeEntryName(entry->d_name, name) ||
+            !fitsProgramForm(name))
+            continue;
+        unsigned char type = entry->d_type;
+        bool link = type == DT_LNK;
+        if (type == DT_LNK || type == DT_UNKNOWN) {
+            struct stat status {};
+            if (type == DT_UNKNOWN) {
+                if (::fstatat(fd, entry->d_name, &status, AT_SYMLINK_NOFOLLOW) != 0)
+                    continue;
+                link = S_ISLNK(status.st_mode);
+            }
+            if (link && ::fstatat(fd, entry->d_name, &status, 0) != 0)
+                continue; // the target is gone
+            type = S_ISDIR(status.st_mode) ? DT_DIR : S_ISREG(status.st_mode) ? DT_REG : DT_UNKNOWN;
+        }
+        if (type == DT_DIR)
+            (link ? entries.linkedFolders : entries.folders).append(name);
+        else if (type == DT_REG)
+            entries.files.append(name);
+    }
+    ::closedir(folder);
+    return entries;
+}
+
 // Normal files of a native folder that match the pattern, in listing order.
 QStringList matchingFiles(const QString& folder, const QString& pattern)
 {
-    const QRegularExpression match = wildcardPattern(pattern);
-    QStringList names;
-    // Without QDir::Hidden the dot names stay out.
-    for (const QString& name : QDir(folder).entryList(QDir::Files, QDir::Unsorted)) {
-        if (match.match(name).hasMatch() && fitsProgramForm(name))
-            names.append(name);
-    }
+    const NameMatcher matcher({pattern});
+    QStringList names = readFolder(folder).value_or(FolderEntries()).files;
+    names.removeIf([&matcher](const QString& name) { return !matcher.matches(name); });
     return sortedForListing(names);
 }
 
@@ -492,13 +575,8 @@ QStringList FileSystem::folders(const QString& programFolder) const
     const QString folder = toNative(programFolder);
     if (folder.isEmpty())
         return {};
-    QStringList names;
-    // Without QDir::Hidden the dot-folders stay out.
-    for (const QString& name : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        if (fitsProgramForm(name))
-            names.append(name);
-    }
-    return sortedForListing(names);
+    const FolderEntries entries = readFolder(folder).value_or(FolderEntries());
+    return sortedForListing(entries.folders + entries.linkedFolders);
 }
 
 FileSystem::FolderListing FileSystem::listFolder(const QString& programFolder,
@@ -506,34 +584,25 @@ FileSystem::FolderListing FileSystem::listFolder(const QString& programFolder,
 {
     FolderListing listing;
     const auto folderPath = absolute(programFolder);
-    const QString folder = folderPath ? nativeOf(resolved(*folderPath)) : QString();
-    if (folder.isEmpty())
+    if (!folderPath)
         return listing;
-    QList<QRegularExpression> matches;
-    for (const QString& pattern : patterns)
-        matches.append(wildcardPattern(pattern.isEmpty() ? QStringLiteral("*") : pattern));
-    const auto matchesAny = [&matches](const QString& name) {
-        return std::any_of(matches.cbegin(), matches.cend(),
-                           [&name](const auto& match) { return match.match(name).hasMatch(); });
-    };
-    // Without QDir::Hidden the dot names stay out; without QDir::System
-    // links whose target is gone do too.
-    const QFileInfoList entries =
-        QDir(folder).entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
-    for (const QFileInfo& entry : entries) {
-        const QString name = entry.fileName();
-        if (!fitsProgramForm(name))
-            continue;
-        if (entry.isDir())
-            (entry.isSymLink() ? listing.linkedFolders : listing.folders).append(name);
-        else if (matchesAny(name))
-            listing.files.append(name);
+    // A walk names folders as they stand on disk: the folder as spelled is
+    // read at once, and only a miss is looked for without regard to case.
+    std::optional<FolderEntries> read = readFolder(nativeOf(*folderPath));
+    if (!read) {
+        const QString folder = nativeOf(resolved(*folderPath));
+        read = folder.isEmpty() ? std::nullopt : readFolder(folder);
     }
+    if (!read)
+        return listing;
+    FolderEntries& entries = *read;
+    const NameMatcher matcher(patterns);
+    entries.files.removeIf([&matcher](const QString& name) { return !matcher.matches(name); });
     QStringList tracks = cdTracksIn(*folderPath);
-    tracks.removeIf([&matchesAny](const QString& track) { return !matchesAny(track); });
-    listing.files = withTracks(listing.files, tracks);
-    listing.folders = sortedForListing(listing.folders);
-    listing.linkedFolders = sortedForListing(listing.linkedFolders);
+    tracks.removeIf([&matcher](const QString& track) { return !matcher.matches(track); });
+    listing.files = withTracks(std::move(entries.files), tracks);
+    listing.folders = sortedForListing(std::move(entries.folders));
+    listing.linkedFolders = sortedForListing(std::move(entries.linkedFolders));
     return listing;
 }
 

@@ -16,6 +16,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Fonts.h"
 #include "platform/SafeFile.h"
+#include "select/FormSelectFile.h"
 #include "settings/FormSendApliSet.h"
 #include "settings/FormSendTo.h"
 #include "settings/FormSetAccessDirectry.h"
@@ -57,7 +58,13 @@ Lumenta::Lumenta(const Services& services, QStringList arguments, const QString&
     registerForms();
 }
 
-Lumenta::~Lumenta() = default;
+Lumenta::~Lumenta()
+{
+    // Once the registry has handed FormStop out, it goes with the other
+    // windows; it mustn't be deleted twice.
+    if (forms_.existing(QStringLiteral("FormStop")))
+        static_cast<void>(stop_.release());
+}
 
 const QStringList& Lumenta::unloadOrder()
 {
@@ -117,6 +124,7 @@ void Lumenta::registerForms()
         main->links.unloadAllForms = [this] { UnloadAllForms(); };
         main->links.endProgram = [this] { End(); };
         wirePictureLinks(*main);
+        wireDropOnOpenFileList(*main);
         return main;
     });
     forms_.add(QStringLiteral("FormHatenaDrive"), [this]() -> FormBase* {
@@ -140,6 +148,7 @@ void Lumenta::registerForms()
     registerShowForms();
     registerAutoPageForms();
     registerPictureForms();
+    registerSelectForms();
     forms_.add(QStringLiteral("FormLumentaExit"), [this]() -> FormBase* {
         auto* exit = new FormLumentaExit(basics_, formMain());
         exit->unloadAllForms = [this] { UnloadAllForms(); };
@@ -157,6 +166,7 @@ void Lumenta::registerForms()
     };
     hooks.openFileList = [this](const QString& list) { formMain().OpenFileList(list); };
     hooks.endProgram = [this] { End(); };
+    hooks.listFolder = [this](const QString& folder) { return selectFile().ListFolder(folder); };
     startWithFile_ = std::make_unique<ModuleStartWithFile>(basics_, std::move(hooks));
 }
 

@@ -123,7 +123,11 @@ void ModuleStartWithFile::BuildStartList()
     const QString positionsFile = fs.toNative(programRunFile(kNamePositions));
     const QStringList lines = text::splitLines(
         positionsFile.isEmpty() ? QString() : readSettingsFile(positionsFile).value_or(QString()));
-    const auto stop = [this] { return stopRequested(); };
+    const TreeLister tree =
+        hooks_.listFolder ? hooks_.listFolder : [this, &fs](const QString& folder) {
+            return walkFolderTree(fs, folder, {}, {.stop = [this] { return stopRequested(); }})
+                .files;
+        };
 
     QString list;
     for (const QString& line : lines) {
@@ -139,7 +143,7 @@ void ModuleStartWithFile::BuildStartList()
         if (first < 1 || last < first)
             continue;
         const QString name = Mid(commandLineText_, first, last - first + 1);
-        for (const QString& entry : listEntryLines(fs, name, EntryRule::CommandLine, {}, stop))
+        for (const QString& entry : listEntryLines(fs, name, EntryRule::CommandLine, tree))
             list += entry + kCrLf;
     }
     writeTextFileSafely(fs.toNative(dataFile(kStartList)), list);
