@@ -78,25 +78,38 @@ private Q_SLOTS:
     void shapes_data()
     {
         QTest::addColumn<QString>("option");
+        QTest::addColumn<QString>("size"); // ComboLineSize
         QTest::addColumn<QList<QPoint>>("path");
         QTest::addColumn<QList<QPoint>>("drawn");
         QTest::addColumn<QList<QPoint>>("untouched");
         // The rubber band first goes down to (20, 140): that trace must be gone.
         QTest::newRow("line: from press to release, the band erased")
-            << "OptionLine" << QList<QPoint>{{20, 20}, {20, 140}, {60, 40}, {100, 60}}
+            << "OptionLine"
+            << "1" << QList<QPoint>{{20, 20}, {20, 140}, {60, 40}, {100, 60}}
             << QList<QPoint>{{20, 20}, {40, 30}, {60, 40}} << QList<QPoint>{{20, 80}, {20, 139}};
         QTest::newRow("circle: radius from centre to pointer")
-            << "OptionCir" << QList<QPoint>{{100, 75}, {100, 120}, {130, 75}}
+            << "OptionCir"
+            << "1" << QList<QPoint>{{100, 75}, {100, 120}, {130, 75}}
             << QList<QPoint>{{130, 75}, {70, 75}, {100, 45}, {100, 105}}
             << QList<QPoint>{{100, 75}, {100, 120}, {115, 75}};
         QTest::newRow("pen: every move drawn")
-            << "OptionPen" << QList<QPoint>{{10, 10}, {50, 10}, {50, 50}}
+            << "OptionPen"
+            << "1" << QList<QPoint>{{10, 10}, {50, 10}, {50, 50}}
             << QList<QPoint>{{30, 10}, {50, 30}} << QList<QPoint>{{30, 30}, {10, 50}};
+        const QList<QPoint> across = {{20, 50}, {150, 50}};
+        QTest::newRow("line of size 5")
+            << "OptionLine"
+            << "5" << across << QList<QPoint>{{80, 52}, {80, 48}} << QList<QPoint>();
+        for (const char* size : {"abc", "0"}) // the pen stays as it was
+            QTest::addRow("line of size %s", size)
+                << "OptionLine" << size << across << QList<QPoint>{{80, 50}}
+                << QList<QPoint>{{80, 52}, {80, 49}};
     }
 
     void shapes()
     {
         DrawFixture f;
+        f.tool->ComboLineSize->setCurrentText(FETCH(QString, size));
         f.startLine(f.tool->findChild<QRadioButton*>(FETCH(QString, option)));
         QCOMPARE(backColor(f.tool->CommandStartDrawLine), kColorGreen);
         f.drag(FETCH(QList<QPoint>, path));
@@ -115,27 +128,6 @@ private Q_SLOTS:
         QCOMPARE(f.seen(), seen);
         QCOMPARE(backColor(f.tool->CommandStartDrawLine), kColorButtonFace);
         saveShot(f.main().Picture2, QStringLiteral("modpic_") + QTest::currentDataTag());
-    }
-
-    void lineSize_data()
-    {
-        QTest::addColumn<QString>("size");
-        QTest::addColumn<bool>("thick");
-        QTest::newRow("5") << "5" << true;
-        QTest::newRow("abc keeps the pen as it was") << "abc" << false;
-        QTest::newRow("0 keeps the pen as it was") << "0" << false;
-    }
-
-    void lineSize()
-    {
-        DrawFixture f;
-        f.tool->ComboLineSize->setCurrentText(FETCH(QString, size));
-        f.startLine(f.tool->OptionLine);
-        f.drag({{20, 50}, {150, 50}});
-        const QImage seen = f.seen();
-        QCOMPARE(seen.pixel(80, 50), kRed);
-        QCOMPARE(seen.pixel(80, 52) == kRed, FETCH(bool, thick));
-        QCOMPARE(seen.pixel(80, 49), FETCH(bool, thick) ? kRed : kWhite);
     }
 
     void curveThroughClickedPoints_data()
