@@ -224,9 +224,6 @@ private Q_SLOTS:
         QTest::newRow("inside the black frame")
             << "OptionWakunaiChikan" << qint32(0x000000) << QPoint(50, 50)
             << QList<QPoint>{{21, 21}, {79, 79}, {50, 50}} << QList<QPoint>{{10, 10}, {100, 50}};
-        QTest::newRow("outside the frame")
-            << "OptionWakunaiChikan" << qint32(0x000000) << QPoint(150, 100)
-            << QList<QPoint>{{10, 10}, {199, 149}} << QList<QPoint>{{50, 50}};
         QTest::newRow("no border of the colour: everything")
             << "OptionWakunaiChikan" << qint32(0x0000FF) << QPoint(50, 50)
             << QList<QPoint>{{10, 10}, {50, 50}, {20, 20}} << QList<QPoint>{};

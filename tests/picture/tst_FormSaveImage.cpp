@@ -83,8 +83,7 @@ private Q_SLOTS:
             << "10" << 11 << QList<int>{11, 10, 9, 8, 7, 6, 5, 4, 3, 2};
         QTest::newRow("10, three stores") << "10" << 3 << QList<int>{3, 2, 1};
         QTest::newRow("1: only the newest") << "1" << 3 << QList<int>{3};
-        QTest::newRow("0: only the newest") << "0" << 2 << QList<int>{2};
-        QTest::newRow("abc reads as 0") << "abc" << 2 << QList<int>{2};
+        QTest::newRow("abc reads as 0: only the newest") << "abc" << 2 << QList<int>{2};
         QTest::newRow("1000") << "1000" << 4 << QList<int>{4, 3, 2, 1};
     }
 
