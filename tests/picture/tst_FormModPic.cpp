@@ -95,21 +95,29 @@ private Q_SLOTS:
             << "OptionPen"
             << "1" << QList<QPoint>{{10, 10}, {50, 10}, {50, 50}}
             << QList<QPoint>{{30, 10}, {50, 30}} << QList<QPoint>{{30, 30}, {10, 50}};
+        // Sizes one after another, a dot in the corner drawn with each but the last.
         const QList<QPoint> across = {{20, 50}, {150, 50}};
-        QTest::newRow("line of size 5")
+        const QList<QPoint> thick = {{80, 52}, {80, 48}};
+        QTest::newRow("line of size 5") << "OptionLine"
+                                        << "5" << across << thick << QList<QPoint>();
+        QTest::newRow("line of size 1")
             << "OptionLine"
-            << "5" << across << QList<QPoint>{{80, 52}, {80, 48}} << QList<QPoint>();
-        for (const char* size : {"abc", "0"}) // the pen stays as it was
+            << "5,1" << across << QList<QPoint>{{80, 50}} << QList<QPoint>{{80, 52}, {80, 48}};
+        for (const char* size : {"5,abc", "5,0"}) // refused: the pen stays as it was
             QTest::addRow("line of size %s", size)
-                << "OptionLine" << size << across << QList<QPoint>{{80, 50}}
-                << QList<QPoint>{{80, 52}, {80, 49}};
+                << "OptionLine" << size << across << thick << QList<QPoint>();
     }
 
     void shapes()
     {
         DrawFixture f;
-        f.tool->ComboLineSize->setCurrentText(FETCH(QString, size));
         f.startLine(f.tool->findChild<QRadioButton*>(FETCH(QString, option)));
+        const QStringList sizes = FETCH(QString, size).split(u',');
+        for (qsizetype i = 0; i < sizes.size(); ++i) {
+            f.tool->ComboLineSize->setCurrentText(sizes[i]);
+            if (i + 1 < sizes.size())
+                f.click(QPoint(195, 145));
+        }
         QCOMPARE(backColor(f.tool->CommandStartDrawLine), kColorGreen);
         f.drag(FETCH(QList<QPoint>, path));
         const QImage seen = f.seen();
