@@ -350,19 +350,15 @@ private Q_SLOTS:
         QTest::addColumn<QString>("item"); // column 3 of the line
         QTest::addColumn<QString>("page");
         QTest::addColumn<QStringList>("boxes");
-        QTest::newRow("inline, marks become <BR>") << "<<<<<\r\nOne<<<<<Two"
-                                                   << "[One<BR>Two] 5\r\n"
-                                                   << QStringList();
-        QTest::newRow("mark at 4 is still inline") << "abc<<<<<\r\nX"
-                                                   << "[X] 5\r\n"
-                                                   << QStringList();
-        QTest::newRow("mark at 5 names a file") << "abcd<<<<<\r\nX"
-                                                << "[] 5\r\n"
-                                                << QStringList{"ファイルが見つかりません。"};
+        const auto row = [](const char* tag, const char* item, const char* page,
+                            const QStringList& boxes = {}) {
+            QTest::newRow(tag) << QString(item) << QString(page) << boxes;
+        };
+        row("inline, marks become <BR>", "<<<<<\r\nOne<<<<<Two", "[One<BR>Two] 5\r\n");
+        row("mark at 4 is still inline", "abc<<<<<\r\nX", "[X] 5\r\n");
+        row("mark at 5 names a file", "abcd<<<<<\r\nX", "[] 5\r\n", {"ファイルが見つかりません。"});
         // Row 15 comes after row 7, so its word in the comment is replaced too.
-        QTest::newRow("a later word in the comment") << "<<<<<\r\n総ページ数 pages"
-                                                     << "[ 5 pages] 5\r\n"
-                                                     << QStringList();
+        row("a later word in the comment", "<<<<<\r\n総ページ数 pages", "[ 5 pages] 5\r\n");
     }
 
     void comment()

@@ -81,31 +81,28 @@ private Q_SLOTS:
         QTest::addColumn<QList<QPoint>>("path");
         QTest::addColumn<QList<QPoint>>("drawn");
         QTest::addColumn<QList<QPoint>>("untouched");
+        using Points = QList<QPoint>;
+        const auto row = [](const char* tag, const char* option, const char* size,
+                            const Points& path, const Points& drawn, const Points& untouched) {
+            QTest::newRow(tag) << QString(option) << QString(size) << path << drawn << untouched;
+        };
         // The rubber band first goes down to (20, 140): that trace must be gone.
-        QTest::newRow("line: from press to release, the band erased")
-            << "OptionLine"
-            << "1" << QList<QPoint>{{20, 20}, {20, 140}, {60, 40}, {100, 60}}
-            << QList<QPoint>{{20, 20}, {40, 30}, {60, 40}} << QList<QPoint>{{20, 80}, {20, 139}};
-        QTest::newRow("circle: radius from centre to pointer")
-            << "OptionCir"
-            << "1" << QList<QPoint>{{100, 75}, {100, 120}, {130, 75}}
-            << QList<QPoint>{{130, 75}, {70, 75}, {100, 45}, {100, 105}}
-            << QList<QPoint>{{100, 75}, {100, 120}, {115, 75}};
-        QTest::newRow("pen: every move drawn")
-            << "OptionPen"
-            << "1" << QList<QPoint>{{10, 10}, {50, 10}, {50, 50}}
-            << QList<QPoint>{{30, 10}, {50, 30}} << QList<QPoint>{{30, 30}, {10, 50}};
+        row("line: from press to release, the band erased", "OptionLine", "1",
+            {{20, 20}, {20, 140}, {60, 40}, {100, 60}}, {{20, 20}, {40, 30}, {60, 40}},
+            {{20, 80}, {20, 139}});
+        row("circle: radius from centre to pointer", "OptionCir", "1",
+            {{100, 75}, {100, 120}, {130, 75}}, {{130, 75}, {70, 75}, {100, 45}, {100, 105}},
+            {{100, 75}, {100, 120}, {115, 75}});
+        row("pen: every move drawn", "OptionPen", "1", {{10, 10}, {50, 10}, {50, 50}},
+            {{30, 10}, {50, 30}}, {{30, 30}, {10, 50}});
         // Sizes one after another, a dot in the corner drawn with each but the last.
-        const QList<QPoint> across = {{20, 50}, {150, 50}};
-        const QList<QPoint> thick = {{80, 52}, {80, 48}};
-        QTest::newRow("line of size 5") << "OptionLine"
-                                        << "5" << across << thick << QList<QPoint>();
-        QTest::newRow("line of size 1")
-            << "OptionLine"
-            << "5,1" << across << QList<QPoint>{{80, 50}} << QList<QPoint>{{80, 52}, {80, 48}};
-        for (const char* size : {"5,abc", "5,0"}) // refused: the pen stays as it was
-            QTest::addRow("line of size %s", size)
-                << "OptionLine" << size << across << thick << QList<QPoint>();
+        const Points across = {{20, 50}, {150, 50}};
+        const Points thick = {{80, 52}, {80, 48}};
+        row("line of size 5", "OptionLine", "5", across, thick, {});
+        row("line of size 1", "OptionLine", "5,1", across, {{80, 50}}, thick);
+        // Refused: the pen stays as it was.
+        row("line of size abc", "OptionLine", "5,abc", across, thick, {});
+        row("line of size 0", "OptionLine", "5,0", across, thick, {});
     }
 
     void shapes()

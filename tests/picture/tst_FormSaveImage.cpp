@@ -136,23 +136,20 @@ private Q_SLOTS:
         QTest::addColumn<QString>("written");     // "" when nothing is
         QTest::addColumn<QString>("identified");
         QTest::addColumn<QString>("proposed");
-        QTest::newRow("PNG") << "CommandSavePicPNG" << QStringList{"out/a.png"} << "out/a.png"
-                             << "PNG 200 150"
-                             << "pics/p1_mod.png";
-        QTest::newRow("BMP") << "CommandSavePicBMP" << QStringList{"out/a.bmp"} << "out/a.bmp"
-                             << "BMP3 200 150"
-                             << "pics/p1_mod.BMP";
-        QTest::newRow("JPG") << "CommandSavePicJPG" << QStringList{"out/a.jpg"} << "out/a.jpg"
-                             << "JPEG 200 150"
-                             << "pics/p1_mod.jpg";
-        QTest::newRow("another extension: asked again")
-            << "CommandSavePicPNG" << QStringList{"out/a.jpg", "out/b.txt", "out/c.png"}
-            << "out/c.png"
-            << "PNG 200 150"
-            << "pics/p1_mod.png";
-        QTest::newRow("cancelled") << "CommandSavePicJPG" << QStringList{""} << ""
-                                   << ""
-                                   << "pics/p1_mod.jpg";
+        const auto row = [](const char* tag, const char* button, const QStringList& answers,
+                            const char* written, const char* identified, const char* proposed) {
+            QTest::newRow(tag) << QString(button) << answers << QString(written)
+                               << QString(identified) << QString(proposed);
+        };
+        row("PNG", "CommandSavePicPNG", {"out/a.png"}, "out/a.png", "PNG 200 150",
+            "pics/p1_mod.png");
+        row("BMP", "CommandSavePicBMP", {"out/a.bmp"}, "out/a.bmp", "BMP3 200 150",
+            "pics/p1_mod.BMP");
+        row("JPG", "CommandSavePicJPG", {"out/a.jpg"}, "out/a.jpg", "JPEG 200 150",
+            "pics/p1_mod.jpg");
+        row("another extension: asked again", "CommandSavePicPNG",
+            {"out/a.jpg", "out/b.txt", "out/c.png"}, "out/c.png", "PNG 200 150", "pics/p1_mod.png");
+        row("cancelled", "CommandSavePicJPG", {""}, "", "", "pics/p1_mod.jpg");
     }
 
     void saves()
@@ -257,14 +254,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("width");
         QTest::addColumn<QString>("height");
         QTest::addColumn<QSize>("made"); // empty: none
-        QTest::newRow("400 by 300") << "400"
-                                    << "300" << QSize(400, 300);
-        QTest::newRow("abc") << "abc"
-                             << "300" << QSize();
-        QTest::newRow("0") << "0"
-                           << "10" << QSize();
-        QTest::newRow("beyond what the reader takes") << "100000"
-                                                      << "100000" << QSize();
+        const auto row = [](const char* width, const char* height, QSize made) {
+            QTest::addRow("%s by %s", width, height) << QString(width) << QString(height) << made;
+        };
+        row("400", "300", QSize(400, 300));
+        row("abc", "300", QSize());
+        row("0", "10", QSize());
+        row("100000", "100000", QSize()); // beyond what the reader takes
     }
 
     void blankPicture()
