@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QMouseEvent>
+#include <QPainter>
 
 namespace lumen::test {
 
@@ -80,24 +81,18 @@ struct PictureApp : App {
     }
 };
 
-// A white picture with a black square outline from (20, 20) to (80, 80).
-inline QImage framedPicture(int width = 200, int height = 150)
-{
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    for (int i = 20; i <= 80; ++i) {
-        image.setPixel(i, 20, qRgb(0, 0, 0));
-        image.setPixel(i, 80, qRgb(0, 0, 0));
-        image.setPixel(20, i, qRgb(0, 0, 0));
-        image.setPixel(80, i, qRgb(0, 0, 0));
-    }
-    return image;
-}
-
 inline QImage plainPicture(QColor colour, int width = 200, int height = 150)
 {
     QImage image(width, height, QImage::Format_RGB32);
     image.fill(colour);
+    return image;
+}
+
+// A white picture with a black square outline from (20, 20) to (80, 80).
+inline QImage framedPicture()
+{
+    QImage image = plainPicture(Qt::white);
+    QPainter(&image).drawRect(20, 20, 60, 60); // a pen of one pixel, black
     return image;
 }
 
