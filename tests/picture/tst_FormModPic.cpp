@@ -12,6 +12,7 @@
 #include "support/Shots.h"
 
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -273,6 +274,26 @@ private Q_SLOTS:
         f.click(QPoint(5, 5));
         QCOMPARE(backColor(f.tool->LabelPastColor), qint32(0xFFFFFF));
         QCOMPARE(f.seen(), picture); // picking draws nothing
+    }
+
+    void fiveHundredCurvePoints()
+    {
+        DrawFixture f(plainPicture(Qt::white, 600, 400));
+        f.startLine(f.tool->OptionSplineClose);
+        for (int i = 0; i < 500; ++i) {
+            const double angle = i * 2 * M_PI / 500;
+            f.click(QPoint(300 + int(200 * std::cos(angle)), 200 + int(150 * std::sin(angle))));
+        }
+        QElapsedTimer timer;
+        timer.start();
+        f.tool->CommandStopDrawLine->click();
+        qInfo("a closed curve of 500 points drawn and stored in %lld ms", timer.elapsed());
+        const QImage fixed = f.lastPic(0);
+        QCOMPARE(fixed.pixel(300, 200), kWhite);
+        int onCurve = 0;
+        for (int x = 0; x < 600; ++x)
+            onCurve += fixed.pixel(x, 200) == kRed;
+        QVERIFY(onCurve >= 2); // the loop crosses the middle row twice
     }
 
     void helpTexts()
