@@ -525,6 +525,23 @@ bool FileSystem::makeFolder(const QString& programPath)
     return !native.isEmpty() && QDir().mkdir(native);
 }
 
+bool FileSystem::removeFolder(const QString& programPath)
+{
+    const QString native = toNative(programPath);
+    return !native.isEmpty() && !QFileInfo(native).isSymLink() && QDir().rmdir(native);
+}
+
+bool FileSystem::isSameFile(const QString& programPathA, const QString& programPathB) const
+{
+    const QString a = toNative(programPathA);
+    const QString b = toNative(programPathB);
+    struct stat first {};
+    struct stat second {};
+    return !a.isEmpty() && !b.isEmpty() && ::stat(QFile::encodeName(a).constData(), &first) == 0 &&
+           ::stat(QFile::encodeName(b).constData(), &second) == 0 &&
+           first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
 bool FileSystem::copyFile(const QString& from, const QString& to)
 {
     const QString source = toNative(from);

@@ -91,7 +91,12 @@ public:
     };
     FolderListing listFolder(const QString& programFolder, const QStringList& patterns) const;
 
-    bool makeFolder(const QString& programPath);           // one level; false if it exists
+    bool makeFolder(const QString& programPath);   // one level; false if it exists
+    bool removeFolder(const QString& programPath); // RmDir: an empty folder only
+    // The two paths name one file (the same device and inode, links
+    // followed): a copy of the one onto the other would copy a file onto
+    // itself. False when either is missing.
+    bool isSameFile(const QString& programPathA, const QString& programPathB) const;
     bool copyFile(const QString& from, const QString& to); // replaces "to"; keeps the mode bits
     // Renames or moves; fails if "to" exists, unless only the case of the
     // name changes. A "/" after the last "\" of "to" is refused: the new
