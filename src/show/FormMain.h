@@ -84,6 +84,7 @@ public:
     QPushButton* CommandCopy;
     QPushButton* CommandDeleate;
     QPushButton* CommandRecov;
+    QPushButton* CommandFileOption; // FormFileOption
     QGroupBox* FrameTextHide;
     QCheckBox* CheckWaveHide;
     QCheckBox* CheckCommentHide;
@@ -257,6 +258,7 @@ private:
     void buildFrame1();
     void buildFrame2();
     void buildFrame3();
+    void buildBulkCommands(); // FormMainBulk.cpp
     void buildDisplay();
     void connectHandlers();
     void connectPictureWork();

@@ -140,6 +140,7 @@ void Lumenta::registerForms()
     registerShowForms();
     registerAutoPageForms();
     registerPictureForms();
+    registerBulkForms();
     forms_.add(QStringLiteral("FormLumentaExit"), [this]() -> FormBase* {
         auto* exit = new FormLumentaExit(basics_, formMain());
         exit->unloadAllForms = [this] { UnloadAllForms(); };

@@ -52,6 +52,7 @@ private:
     void registerShowForms();
     void registerAutoPageForms(); // LumentaShowForms.cpp
     void registerPictureForms();  // LumentaPictureForms.cpp
+    void registerBulkForms();     // LumentaBulkForms.cpp
     void wirePictureLinks(FormMain& main);
     SetTargets setTargets();
     void openOneFile(const QString& file);
