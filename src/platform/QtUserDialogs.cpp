@@ -2,14 +2,17 @@
 
 #include "platform/Colors.h"
 #include "platform/FormMessage.h"
+#include "platform/Launcher.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QDateTime>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QSortFilterProxyModel>
 
 namespace lumen {
 
@@ -29,6 +32,58 @@ QString qtFilterFromClassic(const QString& classicFilter)
     }
     return filters.join(QStringLiteral(";;"));
 }
+
+namespace {
+
+// A classic filter for programs ("...(*.exe)|*.exe"): every pattern is
+// "*.exe". On this system programs have no such ending; the dialog lists
+// the files that may be started instead, under the filter's caption.
+bool asksForPrograms(const QString& classicFilter)
+{
+    const QStringList parts = classicFilter.split(QLatin1Char('|'));
+    if (parts.size() < 2)
+        return false;
+    for (qsizetype i = 1; i < parts.size(); i += 2) {
+        if (parts[i].trimmed().compare(QLatin1String("*.exe"), Qt::CaseInsensitive) != 0)
+            return false;
+    }
+    return true;
+}
+
+// Folders, and the files with an execute bit.
+class ProgramFiles : public QSortFilterProxyModel {
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex& parent) const override
+    {
+        const auto* files = qobject_cast<const QFileSystemModel*>(sourceModel());
+        if (!files)
+            return true;
+        const QFileInfo info = files->fileInfo(files->index(row, 0, parent));
+        return info.isDir() || isExecutableFile(info.absoluteFilePath());
+    }
+};
+
+std::optional<QString> openProgramName(QWidget* owner, const QString& title,
+                                       const QString& startPath, const QString& classicFilter)
+{
+    QFileDialog dialog(owner, title);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setProxyModel(new ProgramFiles(&dialog));
+    dialog.setNameFilter(classicFilter.section(QLatin1Char('|'), 0, 0) + QStringLiteral(" (*)"));
+    const QFileInfo start(startPath);
+    dialog.setDirectory(start.isDir() ? startPath : start.path());
+    if (!start.isDir())
+        dialog.selectFile(start.fileName());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return dialog.selectedFiles().first();
+}
+
+} // namespace
 
 QtUserDialogs::QtUserDialogs() = default;
 
@@ -94,6 +149,8 @@ void QtUserDialogs::hideMessage()
 std::optional<QString> QtUserDialogs::openFileName(const QString& title, const QString& startPath,
                                                    const QString& filter)
 {
+    if (asksForPrograms(filter))
+        return openProgramName(owner_, title, startPath, filter);
     const QString name =
         QFileDialog::getOpenFileName(owner_, title, startPath, qtFilterFromClassic(filter));
     if (name.isEmpty())

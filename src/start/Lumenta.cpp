@@ -141,6 +141,7 @@ void Lumenta::registerForms()
     registerAutoPageForms();
     registerPictureForms();
     registerBulkForms();
+    registerBindingForms();
     forms_.add(QStringLiteral("FormLumentaExit"), [this]() -> FormBase* {
         auto* exit = new FormLumentaExit(basics_, formMain());
         exit->unloadAllForms = [this] { UnloadAllForms(); };

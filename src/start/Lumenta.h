@@ -16,6 +16,7 @@
 
 namespace lumen {
 
+class FormEdit2;
 class FormMain;
 class FormStop;
 class ModuleStartWithFile;
@@ -53,6 +54,8 @@ private:
     void registerAutoPageForms(); // LumentaShowForms.cpp
     void registerPictureForms();  // LumentaPictureForms.cpp
     void registerBulkForms();     // LumentaBulkForms.cpp
+    void registerBindingForms();  // LumentaBindingForms.cpp
+    FormEdit2& edit2();
     void wirePictureLinks(FormMain& main);
     SetTargets setTargets();
     void openOneFile(const QString& file);
