@@ -263,9 +263,9 @@ void VeroProcedure_Basical::RefreshFileControls()
     host_.refreshFileControls();
 }
 
-void VeroProcedure_Basical::WriteTextToFile(const QString& text, const QString& path)
+bool VeroProcedure_Basical::WriteTextToFile(const QString& text, const QString& path)
 {
-    writeTextFileSafely(nativePath(path), text + kCrLf);
+    return writeTextFileSafely(nativePath(path), text + kCrLf);
 }
 
 // ---- Reading text files ----------------------------------------------------

@@ -38,7 +38,8 @@ public:
     void MoveFileByPair(const QString& pair);
     void CopyFileByPair(const QString& pair);
     void RefreshFileControls();
-    void WriteTextToFile(const QString& text, const QString& path);
+    // False when the file couldn't be written; an old file then stays whole.
+    bool WriteTextToFile(const QString& text, const QString& path);
     QString ReadTextOfFile(const QString& path);
     int CleanListFile(const QString& path);
     // The same, handing back the text now in the file (lines parted and
