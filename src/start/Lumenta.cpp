@@ -117,6 +117,7 @@ void Lumenta::registerForms()
         main->links.unloadAllForms = [this] { UnloadAllForms(); };
         main->links.endProgram = [this] { End(); };
         wirePictureLinks(*main);
+        wireEntryLinks(*main);
         return main;
     });
     forms_.add(QStringLiteral("FormHatenaDrive"), [this]() -> FormBase* {
@@ -142,6 +143,7 @@ void Lumenta::registerForms()
     registerPictureForms();
     registerBulkForms();
     registerBindingForms();
+    registerEntryForms();
     forms_.add(QStringLiteral("FormLumentaExit"), [this]() -> FormBase* {
         auto* exit = new FormLumentaExit(basics_, formMain());
         exit->unloadAllForms = [this] { UnloadAllForms(); };

@@ -55,6 +55,8 @@ private:
     void registerPictureForms();  // LumentaPictureForms.cpp
     void registerBulkForms();     // LumentaBulkForms.cpp
     void registerBindingForms();  // LumentaBindingForms.cpp
+    void registerEntryForms();    // LumentaEntryForms.cpp
+    void wireEntryLinks(FormMain& main);
     FormEdit2& edit2();
     void wirePictureLinks(FormMain& main);
     SetTargets setTargets();

@@ -32,6 +32,7 @@ void Lumenta::registerBindingForms()
                 select->raise();
         };
         links.endProgram = [this] { End(); };
+        links.editorOn = [this] { return state_.EditorOn; };
         return edit2;
     });
     forms_.add(QStringLiteral("FormRClick"),
