@@ -57,7 +57,13 @@ Lumenta::Lumenta(const Services& services, QStringList arguments, const QString&
     registerForms();
 }
 
-Lumenta::~Lumenta() = default;
+Lumenta::~Lumenta()
+{
+    // Once the registry has handed FormStop out, it goes with the other
+    // windows; it mustn't be deleted twice.
+    if (forms_.existing(QStringLiteral("FormStop")))
+        static_cast<void>(stop_.release());
+}
 
 const QStringList& Lumenta::unloadOrder()
 {
