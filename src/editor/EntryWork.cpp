@@ -437,9 +437,7 @@ void EntryWork::storeCompanion(EntrySave save, const QString& extension, const Q
         if (DotPos > 0) {
             const QString name = Left(main, DotPos) + extension.mid(1).toLower();
             (extension == QLatin1String(".WAV") ? SoundFileName : MidiFileName) = name;
-            FileSystem& fs = basics_.services().fs;
-            if (!fs.isSameFile(temp, name))
-                fs.copyFile(temp, name);
+            basics_.services().fs.copyFile(temp, name);
             setColumn(kColWith, name);
         }
     }

@@ -118,6 +118,7 @@ void BulkWalk::walk(BulkMode mode)
             ++row_;
             continue;
         }
+        QString chosen = *target;
         if (options.Confirming) {
             // The page is shown, so the user sees what is about to happen.
             view_.showPage(row_);
@@ -133,8 +134,10 @@ void BulkWalk::walk(BulkMode mode)
                 ++row_;
                 continue;
             }
+            // The target as TextNew holds it now: the user may have reset it.
+            chosen = view_.newName();
         }
-        act(mode, file);
+        act(mode, file, Trim(chosen));
         ++row_;
     }
     running_ = false;
@@ -167,9 +170,8 @@ BulkWalk::Answer BulkWalk::awaitAnswer()
 
 // The kind of work may have changed during the wait (CommandOK reads the
 // option buttons again): the flags of now decide, within the run's kind.
-void BulkWalk::act(BulkMode mode, const QString& file)
+void BulkWalk::act(BulkMode mode, const QString& file, const QString& target)
 {
-    const QString target = Trim(view_.newName());
     switch (mode) {
     case BulkMode::AllCopy:
     case BulkMode::SelectCopy:
@@ -203,9 +205,7 @@ void BulkWalk::copy(const QString& file, const QString& target)
 {
     if (target.isEmpty())
         return;
-    FileSystem& fs = basics_.services().fs;
-    if (!fs.isSameFile(file, target))
-        fs.copyFile(file, target);
+    basics_.services().fs.copyFile(file, target);
 }
 
 } // namespace lumen

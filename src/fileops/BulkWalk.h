@@ -23,7 +23,7 @@ public:
     virtual bool lowerCase() const = 0; // CheckChangeChara
     virtual void showOriginal(const QString& file) = 0;
     virtual void showNew(const QString& target) = 0;
-    virtual QString newName() const = 0; // the target as TextNew holds it now
+    virtual QString newName() const = 0; // the target as TextNew holds it after an answer
     virtual void showPage(int row) = 0;  // PicNo and TakeMainAction
     virtual void cancelRun() = 0;        // the question was answered No: CommandCancel
     virtual void runFinished() = 0;
@@ -68,7 +68,7 @@ private:
     void walk(BulkMode mode);
     std::optional<QString> targetOf(BulkMode mode, const QString& file) const;
     Answer awaitAnswer();
-    void act(BulkMode mode, const QString& file);
+    void act(BulkMode mode, const QString& file, const QString& target);
     void copy(const QString& file, const QString& target);
     QString finalName(const QString& target) const;
 

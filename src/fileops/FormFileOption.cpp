@@ -428,14 +428,28 @@ bool FormFileOption::lowerCase() const
     return CheckChangeChara->isChecked();
 }
 
+// A run that goes through shows its rows a few dozen times a second at
+// most: a row takes far less than a frame of the screen, and every change of
+// a box costs a paint. A run that confirms shows each row at once.
 void FormFileOption::showOriginal(const QString& file)
 {
-    TextOriginal->setText(file);
+    shownOriginal_ = file;
+    if (walk_.options.Confirming)
+        TextOriginal->setText(file);
 }
 
 void FormFileOption::showNew(const QString& target)
 {
-    TextNew->setText(target);
+    shownNew_ = target;
+    if (walk_.options.Confirming || !sinceShown_.isValid() || sinceShown_.elapsed() >= kRowShownMs)
+        flushRow();
+}
+
+void FormFileOption::flushRow()
+{
+    TextOriginal->setText(shownOriginal_);
+    TextNew->setText(shownNew_);
+    sinceShown_.restart();
 }
 
 QString FormFileOption::newName() const
@@ -457,6 +471,8 @@ void FormFileOption::cancelRun()
 
 void FormFileOption::runFinished()
 {
+    flushRow();
+    sinceShown_.invalidate();
     Dir1->refresh();
     File1->refresh();
     setBackColor(CommandDo, kColorGrey);

@@ -8,6 +8,8 @@
 #include "fileops/BulkWalk.h"
 #include "platform/FormBase.h"
 
+#include <QElapsedTimer>
+
 #include <functional>
 
 class QCheckBox;
@@ -118,6 +120,8 @@ public:
 
     // How long an answer button stays green, and CommandDo grey at the end.
     static constexpr double kAnswerShownMs = 100;
+    // How often a run that goes through shows its row, at most.
+    static constexpr qint64 kRowShownMs = 40;
 
 protected:
     void Form_Load() override;
@@ -146,10 +150,14 @@ private:
     void setAnswersEnabled(bool enabled);
     void answer(QPushButton* button, bool& flag);
     void showFileMenu(const QPoint& global);
+    void flushRow();
 
     VeroProcedure_Basical& basics_;
     FormRegistry& forms_;
     BulkWalk walk_;
+    QString shownOriginal_; // the row in work, shown at the next flush
+    QString shownNew_;
+    QElapsedTimer sinceShown_;
 };
 
 } // namespace lumen

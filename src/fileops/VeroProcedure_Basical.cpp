@@ -245,13 +245,11 @@ void VeroProcedure_Basical::CopyFileByPair(const QString& pair)
             QString folder = FolderOfPath(to);
             if (!FolderExists(folder))
                 MakeFolderTree(folder);
-            // An old target is replaced by a complete copy only (staged beside
-            // it, then renamed over it), never deleted first; a target that is
-            // the source itself is passed over, so the source survives.
-            if (!fs.isSameFile(from, to)) {
-                fs.copyFile(from, to);
+            // An old target is replaced by a complete copy only, never deleted
+            // first; a target that is the source itself is passed over, so the
+            // source survives.
+            if (fs.copyFile(from, to))
                 WaitForFileReady(to);
-            }
         }
     }
     RefreshFileControls();
