@@ -24,7 +24,6 @@ class VeroProcedure_Basical;
 struct FormEdit2Links {
     std::function<bool()> editorOn;          // EditorOn: the editor's file is meant
     std::function<QString()> editorFileName; // TextFileName of FormEditText
-    std::function<void()> setEditTextFont;   // CommandSetEditTextFont of FormSelectFile
     std::function<void()> bringSelectFileToFront;
     std::function<void()> endProgram; // End, after CommandClear
 };

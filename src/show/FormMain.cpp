@@ -43,6 +43,7 @@ FormMain::FormMain(VeroProcedure_Basical& basics, FormRegistry& forms, QWidget* 
     buildFrame2();
     buildFrame3();
     connectHandlers();
+    buildSelectCommands();
     buildBulkCommands();
 }
 

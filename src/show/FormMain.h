@@ -16,6 +16,7 @@ class QLineEdit;
 class QPushButton;
 class QScrollBar;
 class QPlainTextEdit;
+class QMimeData;
 
 namespace lumen {
 
@@ -36,6 +37,8 @@ struct FormMainLinks {
     std::function<void()> endProgram;            // End
     std::function<void()> hideEditFrames;        // FormEdit's two entry frames
     std::function<void()> pasteCommentOnPicture; // CommandWriteCommentOnPic_Click
+    // Files dropped on CommandOpenFileList, handed to the file selection.
+    std::function<void(const QMimeData* dropped)> dropOnOpenFileList;
 };
 
 class FormMain : public FormBase {
@@ -63,6 +66,8 @@ public:
     QPushButton* CommandIELeft;
     QPushButton* CommandIERight;
     QPushButton* CommandExit;
+    QPushButton* CommandSelectFile; // FormSelectFile
+    QPushButton* CommandGiveFilter; // FormGiveFilter
 
     // ---- Frame2: picture work and modes
     QGroupBox* Frame2;
@@ -256,6 +261,7 @@ private:
     void playMovieOverWeb(const QString& programPath);
     void showIn3DViewer(const FixedString<100>& viewerPath);
     void buildFrame1();
+    void buildSelectCommands(); // FormMainSelect.cpp
     void buildFrame2();
     void buildFrame3();
     void buildBulkCommands(); // FormMainBulk.cpp

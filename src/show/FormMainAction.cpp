@@ -16,6 +16,7 @@
 #include "platform/FormRegistry.h"
 #include "platform/Launcher.h"
 #include "platform/Media.h"
+#include "platform/RegularFile.h"
 #include "platform/UserDialogs.h"
 #include "settings/AutoStartTable.h"
 #include "settings/FormCommandConbo.h"
@@ -42,8 +43,8 @@ QString extensionOf(const QString& fileName)
 
 bool beginsWithRiff(const QString& nativePath)
 {
-    QFile file(nativePath);
-    return file.open(QIODevice::ReadOnly) && file.read(4) == "RIFF";
+    QFile file;
+    return openRegularFile(file, nativePath) && file.read(4) == "RIFF";
 }
 
 } // namespace

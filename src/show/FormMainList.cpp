@@ -41,7 +41,8 @@ bool shownOwn(const QWidget* control)
 void FormMain::OpenFileList(const QString& fileName)
 {
     QString text;
-    const int count = prepareWorkingCopy(basics_, fileName, &text);
+    QString source;
+    const int count = prepareWorkingCopy(basics_, fileName, &text, &source);
     if (count < 0)
         return;
 
@@ -57,8 +58,10 @@ void FormMain::OpenFileList(const QString& fileName)
         stopAutoPage();
 
     basics_.WaitMilliseconds(100);
-    if (count == 0)
-        text = basics_.ReadTextOfFile(state_.ListFileName = workingCopyName(basics_));
+    if (count == 0) {
+        state_.ListFileName = workingCopyName(basics_);
+        text = basics_.ReadTextOfFile(source);
+    }
     const bool quick = CheckQuiCkWork->isChecked();
     const ListFill fill = fillListArray(basics_, text, count, !quick);
     if (fill.stopped)
@@ -69,9 +72,7 @@ void FormMain::OpenFileList(const QString& fileName)
     Picture2->show();
     if (!quick) {
         twMove(Text1, 0, 0, twWidth(Picture1), twHeight(Picture1));
-        Text1->setPlainText(QString(fill.displayText)
-                                .replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
-                                .trimmed());
+        Text1->setPlainText(listViewText(fill.displayText));
         Text1->show();
     }
 
@@ -197,14 +198,18 @@ void FormMain::LabelDo_Click()
 void FormMain::TextCount_Change()
 {
     ScrollGuard = true;
-    const int page = int(Val(TextCount->text()));
+    qint16 page = 0;
+    if (!StoreInt16(page, Val(TextCount->text())))
+        return; // a number that doesn't fit the page bar is passed over
     HScrollPicNom->setValue(page);
     showNavigatorPage(page);
 }
 
 void FormMain::TextTotal_Change()
 {
-    HScrollPicNom->setMaximum(int(Val(TextTotal->text())));
+    qint16 total = 0;
+    if (StoreInt16(total, Val(TextTotal->text())))
+        HScrollPicNom->setMaximum(total);
 }
 
 void FormMain::TextHeadName_Change()

@@ -16,6 +16,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Fonts.h"
 #include "platform/SafeFile.h"
+#include "select/FormSelectFile.h"
 #include "settings/FormSendApliSet.h"
 #include "settings/FormSendTo.h"
 #include "settings/FormSetAccessDirectry.h"
@@ -123,6 +124,7 @@ void Lumenta::registerForms()
         main->links.unloadAllForms = [this] { UnloadAllForms(); };
         main->links.endProgram = [this] { End(); };
         wirePictureLinks(*main);
+        wireDropOnOpenFileList(*main);
         wireEntryLinks(*main);
         return main;
     });
@@ -147,6 +149,7 @@ void Lumenta::registerForms()
     registerShowForms();
     registerAutoPageForms();
     registerPictureForms();
+    registerSelectForms();
     registerBulkForms();
     registerBindingForms();
     registerEntryForms();
@@ -167,6 +170,7 @@ void Lumenta::registerForms()
     };
     hooks.openFileList = [this](const QString& list) { formMain().OpenFileList(list); };
     hooks.endProgram = [this] { End(); };
+    hooks.listFolder = [this](const QString& folder) { return selectFile().ListFolder(folder); };
     startWithFile_ = std::make_unique<ModuleStartWithFile>(basics_, std::move(hooks));
 }
 
@@ -257,6 +261,7 @@ void Lumenta::Main()
     state_.WindowsFolder = basics_.GetWindowsFolder();
     state_.SystemFolder = basics_.GetSystemFolder();
     makeWorkingFolders(basics_);
+    removeStagedLeftovers(basics_);
     basics_.WriteTextToFile(state_.ProgramFolder + QLatin1Char('\\') + state_.ProgramName +
                                 QStringLiteral(".exe"),
                             settingsFile(QStringLiteral("StartFromWhere.dat")));
@@ -281,7 +286,9 @@ void Lumenta::readSmallSettingsFiles()
 {
     const QString allowance = settingsFile(QStringLiteral("PictureSizeAllowVal.dat"));
     if (basics_.FileExists(allowance)) {
-        state_.PictureSizeAllowVal = qint32(Val(basics_.ReadTextOfFile(allowance)));
+        // A number that doesn't fit is passed over: the allowance keeps its value.
+        StoreInt32(state_.PictureSizeAllowVal,
+                   Val(basics_.ReadTextOfFile(allowance, kSettingsFileLimit)));
     } else {
         basics_.WriteTextToFile(QStringLiteral("20"), allowance);
         state_.PictureSizeAllowVal = 20;
@@ -292,7 +299,8 @@ void Lumenta::readSmallSettingsFiles()
         state_.AccessPassDir = state_.DataDir;
         basics_.WriteTextToFile(state_.AccessPassDir, accessPass);
     } else {
-        state_.AccessPassDir = TrimLineEnds(basics_.ReadTextOfFile(accessPass).section('\r', 0, 0));
+        state_.AccessPassDir = TrimLineEnds(
+            basics_.ReadTextOfFile(accessPass, kSettingsFileLimit).section('\r', 0, 0));
     }
 
     // The folder the dialogs are locked to. A file written here locks it, but
@@ -302,7 +310,8 @@ void Lumenta::readSmallSettingsFiles()
         state_.AccessLockDir = state_.DataDir;
         basics_.WriteTextToFile(state_.AccessLockDir + QStringLiteral("\r\n1"), accessLock);
     } else {
-        const QStringList lines = basics_.ReadTextOfFile(accessLock).split(QStringLiteral("\r\n"));
+        const QStringList lines =
+            basics_.ReadTextOfFile(accessLock, kSettingsFileLimit).split(QStringLiteral("\r\n"));
         state_.AccessLockDir = TrimLineEnds(lines.value(0));
         state_.DirectryLock = Val(lines.value(1)) == 1 ? 1 : 0;
     }

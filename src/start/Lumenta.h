@@ -18,6 +18,7 @@ namespace lumen {
 
 class FormEdit2;
 class FormMain;
+class FormSelectFile;
 class FormStop;
 class ModuleStartWithFile;
 
@@ -59,6 +60,10 @@ private:
     void wireEntryLinks(FormMain& main);
     FormEdit2& edit2();
     void wirePictureLinks(FormMain& main);
+    void registerSelectForms();   // LumentaSelectForms.cpp
+    FormSelectFile& selectFile(); // made and loaded
+    void wireDropOnOpenFileList(FormMain& main);
+    QList<QWidget*> selectEditTextControls(); // the selection's boxes, once it is made
     SetTargets setTargets();
     void openOneFile(const QString& file);
     void readSmallSettingsFiles();

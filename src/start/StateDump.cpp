@@ -97,7 +97,8 @@ QString StateDump::text() const
                          .arg(centre.y());
         };
         for (const char* name : {"CommandFull", "CommandOption", "CommandExit", "CommandStart",
-                                 "CommandStop", "CommandToNormalSize"})
+                                 "CommandStop", "CommandToNormalSize", "CommandSelectFile",
+                                 "CheckQuiCkWork", "CommandAll", "CommandSaveFile"})
             clickable(name);
         for (const char* name : kPictureWorkControls)
             clickable(name);

@@ -25,6 +25,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QGroupBox>
+#include <QHash>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -255,6 +256,15 @@ void TestFormBulkAndBindings::noButtonWaitsAsNotReady()
         u"FormCDMusic.Pause"_s,
         u"FormCDMusic.Stop"_s,
     };
+    // Buttons of the selection window that open windows of the list editor,
+    // which come with its own work.
+    const QHash<QString, QString> awaited = {
+        {u"FormSelectFile.CommandEditCommand1"_s, u"FormEditText"_s},
+        {u"FormSelectFile.CommandReplaceEditor"_s, u"FormReplaceEdit"_s},
+        {u"FormSelectFile.CommandExtSet"_s, u"FormWordSet"_s},
+        {u"FormSelectFile.CommandWordSet"_s, u"FormWordSet"_s},
+    };
+    QStringList waiting;
     QStringList names = Lumenta::unloadOrder();
     names << u"FormMain"_s << u"FormOmake"_s;
     QStringList missing;
@@ -271,10 +281,13 @@ void TestFormBulkAndBindings::noButtonWaitsAsNotReady()
             if (button->window() != form)
                 continue; // a window of its own, looked at under its name
             const QString id = name + u'.' + button->objectName();
-            QVERIFY2(!button->text().contains(u"準備中"_s) &&
-                         !button->toolTip().contains(u"準備中"_s),
-                     qPrintable(id));
-            if (!button->isEnabled())
+            const bool notReady =
+                button->text().contains(u"準備中"_s) || button->toolTip().contains(u"準備中"_s);
+            if (notReady && !a.app->forms().knows(awaited.value(id, name)))
+                waiting << id + u" (" + awaited.value(id) + u')';
+            else if (notReady)
+                QFAIL(qPrintable(id + u" waits as not ready"_s));
+            else if (!button->isEnabled())
                 disabled << id;
         }
     }
@@ -289,6 +302,8 @@ void TestFormBulkAndBindings::noButtonWaitsAsNotReady()
         QVERIFY2(notYet.contains(name), qPrintable(name + u" is not registered"_s));
     if (!missing.isEmpty())
         qInfo("Windows not in the program yet: %s", qPrintable(missing.join(u", "_s)));
+    if (!waiting.isEmpty())
+        qInfo("Buttons waiting for them: %s", qPrintable(waiting.join(u", "_s)));
 }
 
 QTEST_MAIN(TestFormBulkAndBindings)
