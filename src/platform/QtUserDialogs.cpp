@@ -87,6 +87,17 @@ std::optional<QString> openProgramName(QWidget* owner, const QString& title,
 
 QtUserDialogs::QtUserDialogs() = default;
 
+QWidget* QtUserDialogs::dialogParent() const
+{
+    // A dialog belongs to the window the user works in, so that closing it
+    // gives that window back; notes and pop-ups do not own one.
+    QWidget* active = QApplication::activeWindow();
+    if (active && active->isVisible() &&
+        (active->windowType() == Qt::Window || active->windowType() == Qt::Dialog))
+        return active;
+    return owner_;
+}
+
 QtUserDialogs::~QtUserDialogs()
 {
     delete message_;
@@ -94,7 +105,7 @@ QtUserDialogs::~QtUserDialogs()
 
 void QtUserDialogs::msgBox(const QString& text)
 {
-    QMessageBox box(QMessageBox::NoIcon, kDefaultTitle, text, QMessageBox::Ok, owner_);
+    QMessageBox box(QMessageBox::NoIcon, kDefaultTitle, text, QMessageBox::Ok, dialogParent());
     box.setWindowModality(Qt::ApplicationModal);
     box.exec();
 }
@@ -102,7 +113,7 @@ void QtUserDialogs::msgBox(const QString& text)
 int QtUserDialogs::askYesNo(const QString& text)
 {
     QMessageBox box(QMessageBox::Question, kDefaultTitle, text, QMessageBox::Yes | QMessageBox::No,
-                    owner_);
+                    dialogParent());
     box.setWindowModality(Qt::ApplicationModal);
     return box.exec() == QMessageBox::Yes ? kAnswerYes : kAnswerNo;
 }
@@ -111,8 +122,9 @@ std::optional<QString> QtUserDialogs::inputBox(const QString& prompt, const QStr
                                                const QString& defaultText)
 {
     bool ok = false;
-    const QString text = QInputDialog::getText(owner_, title.isEmpty() ? kDefaultTitle : title,
-                                               prompt, QLineEdit::Normal, defaultText, &ok);
+    const QString text =
+        QInputDialog::getText(dialogParent(), title.isEmpty() ? kDefaultTitle : title, prompt,
+                              QLineEdit::Normal, defaultText, &ok);
     if (!ok)
         return std::nullopt;
     return text;
@@ -150,9 +162,9 @@ std::optional<QString> QtUserDialogs::openFileName(const QString& title, const Q
                                                    const QString& filter)
 {
     if (asksForPrograms(filter))
-        return openProgramName(owner_, title, startPath, filter);
+        return openProgramName(dialogParent(), title, startPath, filter);
     const QString name =
-        QFileDialog::getOpenFileName(owner_, title, startPath, qtFilterFromClassic(filter));
+        QFileDialog::getOpenFileName(dialogParent(), title, startPath, qtFilterFromClassic(filter));
     if (name.isEmpty())
         return std::nullopt;
     return name;
@@ -162,7 +174,7 @@ std::optional<QString> QtUserDialogs::saveFileName(const QString& title, const Q
                                                    const QString& filter)
 {
     const QString name =
-        QFileDialog::getSaveFileName(owner_, title, startPath, qtFilterFromClassic(filter));
+        QFileDialog::getSaveFileName(dialogParent(), title, startPath, qtFilterFromClassic(filter));
     if (name.isEmpty())
         return std::nullopt;
     return name;
@@ -170,12 +182,13 @@ std::optional<QString> QtUserDialogs::saveFileName(const QString& title, const Q
 
 QString QtUserDialogs::browseForFolder(const QString& title, const QString& startPath)
 {
-    return QFileDialog::getExistingDirectory(owner_, title, startPath, QFileDialog::ShowDirsOnly);
+    return QFileDialog::getExistingDirectory(dialogParent(), title, startPath,
+                                             QFileDialog::ShowDirsOnly);
 }
 
 std::optional<qint32> QtUserDialogs::chooseColor(qint32 initialBgr)
 {
-    const QColor chosen = QColorDialog::getColor(colorFromBgr(initialBgr), owner_);
+    const QColor chosen = QColorDialog::getColor(colorFromBgr(initialBgr), dialogParent());
     if (!chosen.isValid())
         return std::nullopt;
     return bgrFromColor(chosen);
@@ -187,7 +200,7 @@ std::optional<FontChoice> QtUserDialogs::chooseFont(const QString& family, doubl
     if (pointSize > 0)
         initial.setPointSizeF(pointSize);
     bool accepted = false;
-    const QFont chosen = QFontDialog::getFont(&accepted, initial, owner_);
+    const QFont chosen = QFontDialog::getFont(&accepted, initial, dialogParent());
     if (!accepted)
         return std::nullopt;
     return FontChoice{chosen.family(), chosen.pointSizeF()};
