@@ -1,6 +1,7 @@
 #include "start/StateDump.h"
 
 #include "display/PictureBox.h"
+#include "fileops/FormFileOption.h"
 #include "platform/FileSystem.h"
 #include "platform/SafeFile.h"
 #include "show/FormMain.h"
@@ -33,6 +34,11 @@ constexpr const char* kPictureWorkControls[] = {"CommandModPic",
                                                 "CommandSavePicPNG",
                                                 "CommandPast",
                                                 "CommandSetText"};
+
+// The controls of bulk work and the bindings that whole-program tests press.
+constexpr const char* kBulkControls[] = {
+    "CommandFileOption", "OptionAutoRename", "TextNom",     "TextDirectry",  "CommandMakeDirectry",
+    "CommandDo",         "CommandOK",        "CommandSkip", "CommandEditor", "CommandEdit"};
 
 void onSignal(int)
 {
@@ -102,6 +108,14 @@ QString StateDump::text() const
             clickable(name);
         for (const char* name : kPictureWorkControls)
             clickable(name);
+        for (const char* name : kBulkControls)
+            clickable(name);
+    }
+    // The row of the list that bulk work has in hand, 0 when it has none.
+    if (auto* bulk =
+            static_cast<FormFileOption*>(app_.forms().existing(QStringLiteral("FormFileOption")))) {
+        const BulkWalk& walk = bulk->walk();
+        lines << QStringLiteral("FileOptionRow=%1").arg(walk.running() ? walk.row() : 0);
     }
     // Where the picture on show lies on the screen, for pointing at its pixels.
     if (main.Picture2->isVisible()) {
