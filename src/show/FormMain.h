@@ -215,6 +215,7 @@ protected:
     void Form_Load() override;
     void Form_Unload(bool& cancel) override;
     void resizeEvent(QResizeEvent* event) override;
+    void windowFramed() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -246,6 +247,7 @@ private:
     void centreVideo();
     void playMovieOverWeb(const QString& programPath);
     void showIn3DViewer(const FixedString<100>& viewerPath);
+    void applySizeLimits();
     void buildFrame1();
     void buildFrame2();
     void buildFrame3();

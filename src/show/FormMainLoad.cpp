@@ -47,7 +47,7 @@ void FormMain::Form_Load()
     CheckUseCyberView->setChecked(checkValue(record.CyberViewOn) == 1);
     applyFonts();
 
-    move(0, 0);
+    twMove(this, 0, 0);
     makeWorkingFolders(basics_);
 
     Text1->hide();

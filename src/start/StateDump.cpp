@@ -72,7 +72,7 @@ QString StateDump::text() const
                      .arg(place.width())
                      .arg(place.height());
         for (const char* name : {"CommandFull", "CommandOption", "CommandExit", "CommandStart",
-                                 "CommandStop", "CommandToNormalSize"}) {
+                                 "CommandNoText", "CommandStop", "CommandToNormalSize"}) {
             const auto* button = window->findChild<QWidget*>(QString::fromLatin1(name));
             if (!button || !button->isVisible() || button->window() != window)
                 continue;

@@ -204,7 +204,7 @@ void TestFormMainStart::wholeScreenAndBack_data()
     QTest::addColumn<QRect>("result"); // in twips
     QTest::newRow("back where it was") << QRect() << QRect();
     QTest::newRow("a small one snaps to 12000 by 8500")
-        << QRect(600, 300, 9000, 6000) << QRect(600, 300, 12000, 8500);
+        << QRect(0, 300, 9000, 6000) << QRect(0, 300, 12000, 8500);
     QTest::newRow("a left beyond the screen comes back to 0")
         << QRect(20000, 300, 12000, 8500) << QRect(0, 300, 12000, 8500);
 }
