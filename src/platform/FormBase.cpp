@@ -21,6 +21,8 @@ FormBase::FormBase(const QString& name, QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags)
 {
     setObjectName(name);
+    // The window system knows the window by its name too (WM_WINDOW_ROLE).
+    setWindowRole(name);
 }
 
 void FormBase::load()

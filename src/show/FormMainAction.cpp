@@ -180,6 +180,7 @@ void FormMain::TakeMainAction()
     if (comment.isEmpty() || HideComment) {
         HasComment = false;
         forms_.unload(QStringLiteral("FormComment"));
+        setLabelComment(QString());
     } else {
         HasComment = true;
         const int mark = InStr(comment, kCommentMark);
@@ -187,6 +188,7 @@ void FormMain::TakeMainAction()
             mark >= 1 && mark <= 4 ? Mid(comment, mark + 7) : basics_.ReadTextOfFile(comment);
         if (auto* window = static_cast<FormComment*>(forms_.form(QStringLiteral("FormComment"))))
             window->setCommentText(text);
+        setLabelComment(text);
     }
 
     CommandNoText->hide();
@@ -261,12 +263,6 @@ void FormMain::companionRule(bool pictureOrTextPage)
     KindMidi = false;
     if (HasComment && !HideComment)
         showCommentWindow();
-}
-
-void FormMain::showCommentWindow()
-{
-    if (FormBase* window = forms_.form(QStringLiteral("FormComment")))
-        window->showForm();
 }
 
 void FormMain::runOption(const QString& word)

@@ -46,6 +46,10 @@ void FormMain::OpenFileList(const QString& fileName)
         return;
 
     basics_.host().showStop();
+    // A list opened at start (the last one, again) opens while the window
+    // is still loading: its half-minute view needs the window on show.
+    if (!isVisible())
+        show();
     setWindowTitle(QStringLiteral("Lumenta_KDR"));
     Picture2->hide();
     Picture3->hide();

@@ -71,8 +71,9 @@ QString StateDump::text() const
                      .arg(place.y())
                      .arg(place.width())
                      .arg(place.height());
-        for (const char* name : {"CommandFull", "CommandOption", "CommandExit", "CommandStart",
-                                 "CommandNoText", "CommandStop", "CommandToNormalSize"}) {
+        for (const char* name :
+             {"CommandFull", "CommandOption", "CommandExit", "CommandStart", "CommandNoText",
+              "LabelDo", "CommandStop", "CommandToNormalSize"}) {
             const auto* button = window->findChild<QWidget*>(QString::fromLatin1(name));
             if (!button || !button->isVisible() || button->window() != window)
                 continue;

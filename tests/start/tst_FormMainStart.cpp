@@ -22,12 +22,16 @@
 #include "support/Shots.h"
 #include "support/TestHome.h"
 
+#include "platform/ClickLabel.h"
+
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -112,6 +116,13 @@ private Q_SLOTS:
     void autoPage();
     void autoPageStops_data();
     void autoPageStops();
+    void navigatorKeepsThePageOfANewList();
+    void keysPageTheShow_data();
+    void keysPageTheShow();
+    void keysStayWithATextField();
+    void closingTheNavigatorEndsWholeScreen();
+    void commentWindowOpensOverTheDisplayArea();
+    void labelCommentCarriesTheCommentAndIsDragged();
 };
 
 void TestFormMainStart::firstStartShowsOnlyTheAccessWindow()
@@ -464,6 +475,189 @@ void TestFormMainStart::autoPageStops()
     QVERIFY(option->StopPressed);
     QVERIFY(option->isVisible());
     saveShot(option, u"FormOption"_s);
+}
+
+void TestFormMainStart::navigatorKeepsThePageOfANewList()
+{
+    App a;
+    QStringList six;
+    for (int n = 1; n <= 6; ++n)
+        six << a.home.picture(u"a%1.png"_s.arg(n));
+    a.openList(six);
+    FormMain& main = a.main();
+    main.CommandFull->click();
+    auto* navigator = a.form<FormRightLeftNorm>("FormRightLeftNorm");
+    navigator->CommandRight->click(); // the navigator's bar moves within the first list
+    main.FORMNORMALSIZE();
+
+    QStringList thirty;
+    for (int n = 1; n <= 30; ++n)
+        thirty << a.home.picture(u"b%1.png"_s.arg(n));
+    a.home.writeFile(u"thirty.lst"_s, thirty.join(u"\r\n"_s).toUtf8());
+    main.OpenFileList(u"C:\\thirty.lst"_s);
+    main.HScrollPicNom->setValue(19);
+    QCOMPARE(a.app->state().PicNo, qint16(19));
+    main.CommandFull->click();
+    QCOMPARE(a.app->state().PicNo, qint16(19));
+    QCOMPARE(main.TextCount->text(), u"19"_s);
+    QCOMPARE(navigator->HScroll1->value(), 19);
+    QCOMPARE(navigator->HScroll1->maximum(), 30);
+    QCOMPARE(navigator->windowTitle(), u"メインビュウワ(19/30)"_s);
+}
+
+namespace {
+
+// Five pictures, the show on page 3, in the normal window or on the whole
+// screen; the window that has the keys.
+QWidget* showOnPageThree(App& a, bool wholeScreen)
+{
+    QStringList five;
+    for (int n = 1; n <= 5; ++n)
+        five << a.home.picture(u"p%1.png"_s.arg(n));
+    a.openList(five);
+    FormMain& main = a.main();
+    main.CommandRight_Click();
+    main.CommandRight_Click();
+    QWidget* window = &main;
+    if (wholeScreen) {
+        main.CommandFull->click();
+        window = a.form<FormRightLeftNorm>("FormRightLeftNorm");
+    }
+    window->activateWindow();
+    return QTest::qWaitForWindowActive(window) ? window : nullptr;
+}
+
+} // namespace
+
+void TestFormMainStart::keysPageTheShow_data()
+{
+    QTest::addColumn<bool>("wholeScreen"); // keys to the navigator then
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("page");
+    QTest::addColumn<bool>("normalAfterwards");
+    for (bool whole : {false, true}) {
+        const char* mode = whole ? "whole screen" : "normal";
+        QTest::addRow("%s: Right", mode) << whole << int(Qt::Key_Right) << 4 << !whole;
+        QTest::addRow("%s: Space", mode) << whole << int(Qt::Key_Space) << 4 << !whole;
+        QTest::addRow("%s: Page Down", mode) << whole << int(Qt::Key_PageDown) << 4 << !whole;
+        QTest::addRow("%s: Left", mode) << whole << int(Qt::Key_Left) << 2 << !whole;
+        QTest::addRow("%s: Page Up", mode) << whole << int(Qt::Key_PageUp) << 2 << !whole;
+        QTest::addRow("%s: Home", mode) << whole << int(Qt::Key_Home) << 1 << !whole;
+        QTest::addRow("%s: End", mode) << whole << int(Qt::Key_End) << 5 << !whole;
+        QTest::addRow("%s: Escape", mode) << whole << int(Qt::Key_Escape) << 3 << true;
+    }
+}
+
+void TestFormMainStart::keysPageTheShow()
+{
+    App a;
+    QWidget* window = showOnPageThree(a, FETCH(bool, wholeScreen));
+    QVERIFY(window);
+    QTest::keyClick(window, Qt::Key(FETCH(int, key)));
+    FormMain& main = a.main();
+    QCOMPARE(int(a.app->state().PicNo), FETCH(int, page));
+    QCOMPARE(main.TextCount->text(), QString::number(FETCH(int, page)));
+    QCOMPARE(main.Frame1->isVisible(), FETCH(bool, normalAfterwards));
+    QCOMPARE(a.shown("FormRightLeftNorm"), !FETCH(bool, normalAfterwards));
+    if (!FETCH(bool, normalAfterwards)) // the navigator's bar follows the page
+        QCOMPARE(a.form<FormRightLeftNorm>("FormRightLeftNorm")->HScroll1->value(),
+                 FETCH(int, page));
+}
+
+void TestFormMainStart::keysStayWithATextField()
+{
+    App a;
+    QVERIFY(showOnPageThree(a, false));
+    QLineEdit* count = a.main().TextCount;
+    count->setFocus();
+    QTest::keyClick(count, Qt::Key_Home);
+    QTest::keyClick(count, Qt::Key_Right);
+    QTest::keyClick(count, Qt::Key_Space);
+    QTest::keyClick(count, Qt::Key_Left);
+    QTest::keyClick(count, Qt::Key_End);
+    QCOMPARE(count->text(), u"3 "_s); // typed, the cursor moved, no page turned
+    QCOMPARE(count->cursorPosition(), 2);
+    QCOMPARE(a.app->state().PicNo, qint16(3));
+}
+
+void TestFormMainStart::closingTheNavigatorEndsWholeScreen()
+{
+    App a;
+    QVERIFY(showOnPageThree(a, true));
+    auto* navigator = a.form<FormRightLeftNorm>("FormRightLeftNorm");
+    navigator->close(); // by its frame
+    QVERIFY(a.main().Frame1->isVisible());
+    QVERIFY(!navigator->isVisible());
+    QVERIFY(a.main().FormBase::isVisible());
+    // In the normal window a close of the (hidden) navigator changes nothing.
+    navigator->close();
+    QVERIFY(a.main().Frame1->isVisible());
+}
+
+void TestFormMainStart::commentWindowOpensOverTheDisplayArea()
+{
+    App a;
+    const QString comment = u" @COMMENT=<<<<<a note ENDCOMMENT"_s;
+    a.openList({a.home.picture("p1.png") + comment, a.home.picture("p2.png") + comment,
+                a.home.picture("p3.png"), a.home.picture("p4.png") + comment});
+    FormMain& main = a.main();
+    auto* window = a.form<FormComment>("FormComment");
+    QVERIFY(window->isVisible());
+    const QRect area(main.Picture1->mapToGlobal(QPoint(0, 0)), main.Picture1->size());
+    const QRect first = frameRect(window);
+    QVERIFY2(area.contains(first), qPrintable(u"%1 %2"_s.arg(first.x()).arg(first.y())));
+    QVERIFY(qAbs(first.center().x() - area.center().x()) <= 1); // the middle
+    QVERIFY(first.top() > area.center().y());                   // the lower half
+
+    // Dragged, it stays there on the next comment page.
+    twMove(window, twLeft(window) - 600, twTop(window) - 900);
+    const QPoint dragged = frameRect(window).topLeft();
+    main.CommandRight_Click();
+    QVERIFY(window->isVisible());
+    QCOMPARE(frameRect(window).topLeft(), dragged);
+    // A page without a comment unloads it; the next one places it anew.
+    main.CommandRight_Click();
+    QVERIFY(!window->isVisible());
+    main.CommandRight_Click();
+    QVERIFY(window->isVisible());
+    QCOMPARE(frameRect(window).topLeft(), first.topLeft());
+}
+
+void TestFormMainStart::labelCommentCarriesTheCommentAndIsDragged()
+{
+    App a;
+    a.home.writeFile("Lumentas/ForProgramRun_KDR/COMMENTSET2.DAT", "IPAGothic,20,&HFF,0\r\n");
+    a.openList({a.home.picture("p1.png") + " @COMMENT=<<<<<first note ENDCOMMENT",
+                a.home.picture("p2.png"),
+                a.home.picture("p3.png") +
+                    " @COMMENT=<<<<<third note ENDCOMMENT @OPTION=COMMENTSET2 ENDOPTION"});
+    FormMain& main = a.main();
+    ClickLabel* label = main.LabelComment;
+    QCOMPARE(label->text(), u"first note"_s);
+    QVERIFY(!label->isVisible()); // the floating window shows the comment
+    main.CommandRight_Click();
+    QCOMPARE(label->text(), QString());
+    main.CommandRight_Click();
+    QCOMPARE(label->text(), u"third note"_s);
+    QCOMPARE(label->font().pointSize(), 20); // the set of the page's option word
+    QCOMPARE(bgrToHexText(backColor(label)), u"&H000000FF&"_s);
+
+    // Shown for the picture work, it is dragged by the left button.
+    main.setCommentVisible(true);
+    QVERIFY(label->isVisible());
+    twMove(label, 1500, 1500);
+    QTest::mousePress(label, Qt::LeftButton, {}, QPoint(10, 5));
+    QMouseEvent move(QEvent::MouseMove, QPointF(30, 35), label->mapToGlobal(QPointF(30, 35)),
+                     Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(label, &move);
+    QCOMPARE(QPointF(twLeft(label), twTop(label)), QPointF(1500 + 300, 1500 + 450));
+    QCOMPARE(main.LabelDragX, qint16(150));
+    QCOMPARE(main.LabelDragY, qint16(75));
+    // Without the button nothing moves.
+    QMouseEvent hover(QEvent::MouseMove, QPointF(60, 60), label->mapToGlobal(QPointF(60, 60)),
+                      Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(label, &hover);
+    QCOMPARE(QPointF(twLeft(label), twTop(label)), QPointF(1800, 1950));
 }
 
 QTEST_MAIN(TestFormMainStart)

@@ -95,20 +95,31 @@ gone() { # waits until no line of the dump matches the pattern
   done
   return 1
 }
-# main_window: the X window of the program's main window, the largest one
-# shown. Windows come and go while they are counted: asked again until one is found.
-main_window() {
-  local found w WIDTH HEIGHT
-  for _ in 1 2 3 4 5 6 7 8 9 10; do
-    found=$(for w in $(xdotool search --onlyvisible --class lumenta 2>/dev/null); do
-      eval "$(xdotool getwindowgeometry --shell "$w" 2>/dev/null | grep -E '^(WIDTH|HEIGHT)=')" ||
-        continue
-      echo "$((WIDTH * HEIGHT)) $w"
-    done | sort -n | tail -n 1 | cut -d ' ' -f 2)
-    [ -n "$found" ] && { echo "$found"; return 0; }
-    sleep 0.2
+# window_of <Form name>: the X window of the program's window of that name
+# (its WM_WINDOW_ROLE), shown; empty when it isn't on show.
+window_of() {
+  local w role
+  for w in $(xdotool search --onlyvisible --class lumenta 2>/dev/null); do
+    role=$(xprop -id "$w" WM_WINDOW_ROLE 2>/dev/null | sed -n 's/.*= "\(.*\)"/\1/p')
+    [ "$role" = "$1" ] && { echo "$w"; return 0; }
+  done
+  return 0
+}
+
+# await_window <Form name>: waits until the window is on show and prints it.
+await_window() {
+  local w
+  for _ in $(seq 1 100); do
+    w=$(window_of "$1")
+    [ -n "$w" ] && { echo "$w"; return 0; }
+    sleep 0.1
   done
   return 1
+}
+
+# main_window: the X window of the program's main window.
+main_window() {
+  await_window FormMain
 }
 key() { # a key pressed in the program's main window
   window=$(main_window)
