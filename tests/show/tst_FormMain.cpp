@@ -88,6 +88,8 @@ private Q_SLOTS:
     void eachLineOnItsSurface();
     void arrowsStopAtTheEnds();
     void pageBarShowsPicturesOnly();
+    void forcedKindsActInAnyCase_data();
+    void forcedKindsActInAnyCase();
     void copyNumbersTheCopies();
     void deleteRecoverAndRefuse();
 };
@@ -471,6 +473,37 @@ void TestFormMain::pageBarShowsPicturesOnly()
     QCOMPARE(f.main.TextFileName->text(), u"C:\\a.png"_s);
     QCOMPARE(f.main.Picture2->pictureSize(), QSize(30, 30));
     QVERIFY(f.main.ScrollGuard);
+}
+
+void TestFormMain::forcedKindsActInAnyCase_data()
+{
+    // The kind a line of SendToList.txt forces on the page's file, and what a
+    // new size of the window does with the page.
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<bool>("pictureRedone");
+    QTest::addColumn<bool>("textOverTheArea");
+    QTest::newRow("none: the picture is redone") << QString() << true << false;
+    QTest::newRow("SHOW_NON: nothing") << "SHOW_NON" << false << false;
+    QTest::newRow("show_non: nothing") << "show_non" << false << false;
+    QTest::newRow("Show_Text: the text pane") << "Show_Text" << false << true;
+}
+
+void TestFormMain::forcedKindsActInAnyCase()
+{
+    MainFixture f;
+    QFETCH(QString, kind);
+    if (!kind.isEmpty())
+        f.home.writeFile("Lumentas/ForProgramRun_KDR/SendToList.txt",
+                         (kind + u",AUTO_START,FORCED\r\n"_s).toUtf8());
+    f.main.CheckAuto_With();
+    f.open({f.home.picture("forced.png", 30, 30)});
+    QVERIFY(f.main.Picture2->isVisible());
+    f.main.Picture2->hide();
+    f.main.Text1->setGeometry(0, 0, 10, 10);
+    f.main.resize(f.main.size() + QSize(60, 40));
+    f.main.Form_Resize();
+    QCOMPARE(f.main.Picture2->isVisible(), FETCH(bool, pictureRedone));
+    QCOMPARE(f.main.Text1->size() == f.main.Picture1->size(), FETCH(bool, textOverTheArea));
 }
 
 void TestFormMain::copyNumbersTheCopies()
