@@ -26,8 +26,9 @@ struct ListFill {
 
 // Steps 6 to 9 on the working copy's text: the language test and
 // SetCommandWords, then every line into ListArray (sized for `count` rows),
-// with the missing-end-word messages. Events run every 50 lines; a stop
-// leaves with the rows as far as read.
+// with the missing-end-word messages. Every 50 lines FormStop shows the count
+// and events run; a stop leaves with the rows as far as read, `fileCount`
+// counting them.
 // The display text is made only when `withDisplayText` (quick mode never shows it).
 ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int count,
                        bool withDisplayText = true);

@@ -30,6 +30,7 @@ using namespace basic;
 
 constexpr int kListViewSeconds = 31;
 constexpr double kOutOfSight = -30000;
+constexpr double kBesideText = 100; // twips between the list view and CommandNoText
 
 bool shownOwn(const QWidget* control)
 {
@@ -61,21 +62,29 @@ void FormMain::OpenFileList(const QString& fileName)
         stopAutoPage();
 
     basics_.WaitMilliseconds(100);
+    // The whole file is read here, which clears a stop asked for before; the
+    // text was read with the count already, unless the count found nothing.
+    state_.StopRequested = false;
     if (count == 0)
         text = basics_.ReadTextOfFile(state_.ListFileName = workingCopyName(basics_));
     const bool quick = CheckQuiCkWork->isChecked();
     const ListFill fill = fillListArray(basics_, text, count, !quick);
+    FileCount = fill.fileCount; // a stop leaves the rows as far as read
     if (fill.stopped)
         return;
-    FileCount = fill.fileCount;
 
     twMove(Picture2, 0, 0, twWidth(Picture1), twHeight(Picture1));
     Picture2->show();
     if (!quick) {
-        twMove(Text1, 0, 0, twWidth(Picture1), twHeight(Picture1));
-        Text1->setPlainText(QString(fill.displayText)
-                                .replace(QStringLiteral("\r\n"), QStringLiteral("\n"))
-                                .trimmed());
+        // The list over the display area, CommandNoText 100 twips beside it.
+        CommandNoText->adjustSize();
+        twMove(Text1, 0, 0, twWidth(Picture1) - twWidth(CommandNoText) - 2 * kBesideText,
+               twHeight(Picture1));
+        QString shown =
+            QString(fill.displayText).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+        while (shown.endsWith(QLatin1Char('\r')) || shown.endsWith(QLatin1Char('\n')))
+            shown.chop(1); // the line ends behind the text; blanks were trimmed already
+        Text1->setPlainText(shown);
         Text1->show();
     }
 
@@ -84,9 +93,7 @@ void FormMain::OpenFileList(const QString& fileName)
     TextTotal->setText(QString::number(FileCount));
     TextFileName->setText(state_.ListArray.at(kColMain, 1));
     if (!quick) {
-        // Beside the text, at its top right corner, over it.
-        CommandNoText->adjustSize();
-        twMove(CommandNoText, twWidth(Text1) - twWidth(CommandNoText) - 100, 100);
+        twMove(CommandNoText, twLeft(Text1) + twWidth(Text1) + kBesideText, kBesideText);
         CommandNoText->show();
         CommandNoText->raise();
     }
