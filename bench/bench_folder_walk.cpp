@@ -1,6 +1,7 @@
 // Walking a large tree: walkFolderTree against a plain recursive QDirIterator
 // over the same 5,000 folders and 25,000 files, in the same run. Prints both
 // times and their ratio.
+#include "BigTree.h"
 #include "platform/Drives.h"
 #include "platform/FileSystem.h"
 #include "select/FolderWalk.h"
@@ -17,28 +18,6 @@
 using namespace lumen;
 
 namespace {
-
-constexpr int kBranches = 10; // folders in each folder of the first three levels
-constexpr int kFilesPerFolder = 5;
-
-// Four levels: 10 + 100 + 1,000 folders, and under each of the last 1,000
-// four more (4,000): 5,110 folders in all.
-void makeTree(const QString& folder, int depth)
-{
-    for (int f = 0; f < kFilesPerFolder; ++f) {
-        QFile file(folder + QStringLiteral("/picture%1.jpg").arg(f));
-        if (file.open(QIODevice::WriteOnly))
-            file.write("x");
-    }
-    if (depth == 4)
-        return;
-    const int branches = depth == 3 ? 4 : kBranches;
-    for (int b = 0; b < branches; ++b) {
-        const QString sub = folder + QStringLiteral("/Folder %1").arg(b);
-        QDir().mkdir(sub);
-        makeTree(sub, depth + 1);
-    }
-}
 
 qint64 plainWalk(const QString& folder, qsizetype& files)
 {
@@ -59,7 +38,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
     QTemporaryDir home;
-    makeTree(home.path(), 0);
+    bench::makeBigTree(home.path());
     FileSystem fs(DriveMap(home.path()), QStringLiteral("C:\\"));
 
     qsizetype plainFiles = 0;
@@ -70,7 +49,7 @@ int main(int argc, char** argv)
     timer.start();
     int polls = 0;
     const FolderWalkResult result =
-        walkFolderTree(fs, QStringLiteral("C:\\"), {}, [&polls] { return ++polls < 0; });
+        walkFolderTree(fs, QStringLiteral("C:\\"), {}, {.stop = [&polls] { return ++polls < 0; }});
     const qint64 walk = timer.nsecsElapsed();
 
     std::printf("folders %d, files %lld (plain walk: %lld)\n", result.folderCount,

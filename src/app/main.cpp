@@ -14,12 +14,18 @@
 #include <QDir>
 #include <QStyleFactory>
 
+#include <csignal>
+
 int main(int argc, char** argv)
 {
     // Window placement and the always-on-top navigator need an X11 display;
     // on a Wayland desktop its X11 server serves.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "xcb");
+
+    // A write beyond a file size limit fails and is reported like any other
+    // failed write; the old file stays. It doesn't end the program.
+    std::signal(SIGXFSZ, SIG_IGN);
 
     // The web view draws with OpenGL contexts shared with the windows'.
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);

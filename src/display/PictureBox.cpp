@@ -5,6 +5,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPalette>
 
 namespace lumen {
 
@@ -26,6 +27,7 @@ const QImage& PictureBox::picture() const
 
 void PictureBox::adopt(const QSize& size)
 {
+    seen_ = QImage();
     pictureSize_ = size;
     if (autoSize_ && !size.isEmpty())
         resize(size);
@@ -50,6 +52,7 @@ void PictureBox::clearPicture()
 {
     picture_ = QImage();
     read_ = nullptr;
+    seen_ = QImage();
     pictureSize_ = QSize();
     update();
 }
@@ -70,11 +73,69 @@ void PictureBox::setBackColor(qint32 bgr)
     lumen::setBackColor(this, bgr);
 }
 
+QImage PictureBox::drawable(const QImage& image) const
+{
+    // Drawing happens on opaque 32-bit pixels; a picture with transparency
+    // is laid on the box's ground first, as it is seen.
+    if (!image.hasAlphaChannel())
+        return image.convertToFormat(QImage::Format_RGB32);
+    QImage opaque(image.size(), QImage::Format_RGB32);
+    opaque.fill(palette().color(QPalette::Window));
+    QPainter painter(&opaque);
+    painter.drawImage(QPoint(0, 0), image);
+    return opaque;
+}
+
+void PictureBox::setAutoRedraw(bool on)
+{
+    if (on && !seen_.isNull()) {
+        picture_ = seen_;
+        read_ = nullptr;
+        seen_ = QImage();
+    }
+    autoRedraw_ = on;
+}
+
+QImage& PictureBox::surface()
+{
+    QImage& target = autoRedraw_ ? picture_ : seen_;
+    if (target.isNull() || target.format() != QImage::Format_RGB32) {
+        if (!hasPicture()) {
+            // An empty box is drawn on over its own area.
+            QImage ground(size().expandedTo(QSize(1, 1)), QImage::Format_RGB32);
+            ground.fill(palette().color(QPalette::Window));
+            target = ground;
+        } else {
+            target = drawable(picture());
+        }
+        if (autoRedraw_) {
+            read_ = nullptr;
+            pictureSize_ = picture_.size();
+        }
+    }
+    return target;
+}
+
+void PictureBox::Refresh()
+{
+    seen_ = QImage();
+    update();
+}
+
+QImage PictureBox::Image() const
+{
+    return seen_.isNull() ? picture() : seen_;
+}
+
 void PictureBox::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), palette().color(QPalette::Window));
-    if (hasPicture() && !rect().isEmpty())
+    if (rect().isEmpty())
+        return;
+    if (!seen_.isNull())
+        painter.drawImage(QPoint(0, 0), seen_);
+    else if (hasPicture())
         painter.drawImage(QPoint(0, 0), picture());
 }
 

@@ -1,7 +1,15 @@
 // A picture box: holds one picture and paints it at its own size from the
 // top left corner, as the classic picture box with a persistent picture did.
 // PaintPicture draws a picture scaled into the box's own picture.
+//
+// Drawing (the methods are in picture/Canvas) goes to surface(). With
+// AutoRedraw it goes into the picture itself. Without it, it goes onto what
+// is seen only, over the picture, until Refresh shows the picture alone
+// again; turning AutoRedraw on keeps what is seen as the picture. Image() is
+// always what is seen: the picture with everything drawn on it.
 #pragma once
+
+#include "display/DrawSettings.h"
 
 #include <QImage>
 #include <QWidget>
@@ -34,6 +42,17 @@ public:
 
     void setBackColor(qint32 bgr);
 
+    DrawSettings& drawSettings() { return draw_; }
+    bool autoRedraw() const { return autoRedraw_; }
+    void setAutoRedraw(bool on);
+    // The image drawing goes to (32-bit RGB), made on first use: the picture
+    // with AutoRedraw, else the seen copy. Call surfaceChanged() after drawing.
+    QImage& surface();
+    void surfaceChanged() { update(); }
+    // Drops what was drawn without AutoRedraw.
+    void Refresh();
+    QImage Image() const;
+
 Q_SIGNALS:
     // Button and position in twips, as the MouseDown/MouseUp/MouseMove handlers take them.
     void mouseDown(Qt::MouseButton button, float x, float y);
@@ -48,8 +67,12 @@ protected:
 
 private:
     void adopt(const QSize& size);
+    QImage drawable(const QImage& image) const;
 
     mutable QImage picture_;
+    QImage seen_; // what is drawn without AutoRedraw, over the picture
+    DrawSettings draw_;
+    bool autoRedraw_ = false;
     mutable std::function<QImage()> read_;
     QSize pictureSize_;
     bool autoSize_ = false;

@@ -1,5 +1,7 @@
 #include "display/PictureCache.h"
 
+#include "platform/PictureFile.h"
+
 #include <QFileInfo>
 #include <QImageReader>
 #include <QtConcurrent/QtConcurrentRun>
@@ -9,8 +11,8 @@ namespace lumen {
 PictureCache::PictureCache(qint64 budgetBytes)
     : budget_(budgetBytes)
 {
-    // Big enough for a 100-megapixel picture at its own size; a picture that
-    // would need more is refused, so memory stays bounded.
+    // The picture reader refuses what is too large by its header; this is
+    // Qt's own guard for the formats that tell their size only when decoded.
     QImageReader::setAllocationLimit(512);
 }
 
@@ -22,20 +24,12 @@ PictureCache::~PictureCache()
 
 QSize PictureCache::probe(const QString& nativePath)
 {
-    QImageReader reader(nativePath);
-    reader.setAutoTransform(false);
-    return reader.size();
+    return pictureSize(nativePath);
 }
 
 QImage PictureCache::decode(const QString& nativePath, const QSize& size)
 {
-    QImageReader reader(nativePath);
-    reader.setAutoTransform(false);
-    // JPEG decodes straight at a smaller size; other formats are read whole
-    // and smoothed down by the reader.
-    if (!size.isEmpty())
-        reader.setScaledSize(size);
-    return reader.read();
+    return readPicture(nativePath, size);
 }
 
 QImage PictureCache::lookup(const Key& key)

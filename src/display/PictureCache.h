@@ -1,5 +1,5 @@
-// Pictures for the pages: read through Qt's image reader (BMP, ICO, CUR,
-// JPEG, GIF's first frame, PNG, TIFF; no EXIF rotation), kept in a small
+// Pictures for the pages: read through the program's picture reader
+// (platform/PictureFile.h: upright, refused when too large), kept in a small
 // cache keyed by file and size, and prepared ahead: the next page's picture
 // is decoded off the interface thread at the size it will be shown, so that
 // turning to it only paints.
@@ -21,11 +21,12 @@ public:
     explicit PictureCache(qint64 budgetBytes = 256ll << 20);
     ~PictureCache();
 
-    // The picture's own size from its header; empty when it can't be read.
+    // The picture's upright size from its header; empty when it can't be
+    // read or is refused.
     QSize probe(const QString& nativePath);
 
-    // The whole picture at its own size; null when it can't be read (or is
-    // larger than the reader's allocation limit).
+    // The whole picture at its own size; null when it can't be read or is
+    // refused.
     QImage full(const QString& nativePath);
 
     // The picture scaled to `size` (decoded at that size where the format

@@ -4,18 +4,18 @@
 #include "platform/Basic.h"
 #include "platform/Clock.h"
 #include "platform/FileSystem.h"
+#include "platform/PictureFile.h"
+#include "platform/RegularFile.h"
 #include "platform/SafeFile.h"
 #include "platform/TextCodec.h"
 #include "platform/UserDialogs.h"
 #include "state/ProgramState.h"
 
 #include <QDateTime>
-#include <QFile>
-#include <QImageReader>
-#include <QImageWriter>
-#include <QSaveFile>
+#include <QFileInfo>
 
 #include <cmath>
+#include <limits>
 
 namespace lumen {
 namespace {
@@ -26,6 +26,8 @@ const QString kCrLf = QStringLiteral("\r\n");
 
 // The run-time's own texts for the errors the readers can meet.
 const QString kErrorFileNotFound = QStringLiteral("ファイルが見つかりません。");
+const QString kErrorFileAccess = QStringLiteral("パス/ファイル アクセス エラーです。");
+const QString kErrorOutOfMemory = QStringLiteral("メモリが不足しています。");
 const QString kErrorSubscript = QStringLiteral("インデックスが有効範囲にありません。");
 
 constexpr int kChunkLines = 50;
@@ -66,7 +68,9 @@ bool VeroProcedure_Basical::FileExists(QString& path) const
         return false;
     if (path.contains(QLatin1String("://")))
         return true;
-    return !services_.fs.dir(path).isEmpty();
+    // A device or a pipe in a file's place is there, though it is never
+    // opened: a default is never written over it.
+    return !services_.fs.dir(path).isEmpty() || services_.fs.isSpecialFile(path);
 }
 
 bool VeroProcedure_Basical::FileExists(const QString& path) const
@@ -263,9 +267,9 @@ void VeroProcedure_Basical::RefreshFileControls()
     host_.refreshFileControls();
 }
 
-void VeroProcedure_Basical::WriteTextToFile(const QString& text, const QString& path)
+bool VeroProcedure_Basical::WriteTextToFile(const QString& text, const QString& path)
 {
-    writeTextFileSafely(nativePath(path), text + kCrLf);
+    return writeTextFileSafely(nativePath(path), text + kCrLf);
 }
 
 // ---- Reading text files ----------------------------------------------------
@@ -327,8 +331,8 @@ private:
 
 } // namespace
 
-VeroProcedure_Basical::ReadResult VeroProcedure_Basical::readLinesChunked(const QString& path,
-                                                                          bool cleaning)
+VeroProcedure_Basical::ReadResult
+VeroProcedure_Basical::readLinesChunked(const QString& path, bool cleaning, qint64 limit)
 {
     auto fail = [this](const QString& errorText) {
         services_.ui.beep();
@@ -336,11 +340,17 @@ VeroProcedure_Basical::ReadResult VeroProcedure_Basical::readLinesChunked(const 
         host_.unloadStop();
         return ReadResult{};
     };
-    QFile file(nativePath(path));
-    if (!file.open(QIODevice::ReadOnly))
+    // Only a regular file is read, and no more of it than the limit.
+    const QString native = nativePath(path);
+    const PathKind kind = pathKind(native);
+    if (kind == PathKind::Missing)
         return fail(kErrorFileNotFound);
-    QString whole = text::decode(file.readAll());
-    file.close();
+    if (kind != PathKind::Regular)
+        return fail(kErrorFileAccess);
+    const auto bytes = readRegularFile(native, limit);
+    if (!bytes)
+        return fail(QFileInfo(native).size() > limit ? kErrorOutOfMemory : kErrorFileAccess);
+    QString whole = text::decode(*bytes);
 
     ReadResult result;
     const QStringView all(whole);
@@ -412,12 +422,12 @@ VeroProcedure_Basical::ReadResult VeroProcedure_Basical::readLinesChunked(const 
     return result;
 }
 
-QString VeroProcedure_Basical::ReadTextOfFile(const QString& path)
+QString VeroProcedure_Basical::ReadTextOfFile(const QString& path, qint64 limit)
 {
     state_.StopRequested = false;
     if (path.isEmpty())
         return QString();
-    ReadResult read = readLinesChunked(path, false);
+    ReadResult read = readLinesChunked(path, false, limit);
     if (!read.ok)
         return QString();
     if (read.text.size() >= 3 && read.text.endsWith(kCrLf))
@@ -430,11 +440,11 @@ int VeroProcedure_Basical::CleanListFile(const QString& path)
     return CleanListFile(path, nullptr);
 }
 
-int VeroProcedure_Basical::CleanListFile(const QString& path, QString* cleanedText)
+int VeroProcedure_Basical::CleanListFile(const QString& path, QString* cleanedText, bool rewrite)
 {
     if (!FileExists(path))
         return 0;
-    ReadResult read = readLinesChunked(path, true);
+    ReadResult read = readLinesChunked(path, true, kListFileLimit);
     if (!read.ok)
         return 0;
     if (read.kept > 0) {
@@ -443,7 +453,7 @@ int VeroProcedure_Basical::CleanListFile(const QString& path, QString* cleanedTe
         read.text += kCrLf; // as WriteTextToFile prints it, without a second copy
         // A file that already holds this text is left as it is: every line
         // came out as it was, each ended by CR LF.
-        if (!read.sameAsFile)
+        if (!read.sameAsFile && rewrite)
             writeTextFileSafely(nativePath(path), read.text);
         host_.unloadStop();
         WaitForFileReady(path);
@@ -457,8 +467,17 @@ int VeroProcedure_Basical::CleanListFile(const QString& path, QString* cleanedTe
 
 void VeroProcedure_Basical::WaitMilliseconds(double milliseconds)
 {
+    // A length that is no number waits nothing; one beyond any clock waits
+    // until the program ends.
     Clock& clock = services_.clock;
-    const qint64 target = clock.tickCount() + qint64(std::ceil(milliseconds));
+    const qint64 now = clock.tickCount();
+    const double length = std::ceil(milliseconds);
+    const qint64 longest = std::numeric_limits<qint64>::max() - now;
+    qint64 target = now;
+    if (length >= double(longest))
+        target = std::numeric_limits<qint64>::max();
+    else if (length > 0)
+        target = now + qint64(length);
     clock.waitUntil(target);
 }
 
@@ -540,12 +559,7 @@ QString VeroProcedure_Basical::GetSystemFolder() const
 bool VeroProcedure_Basical::savePicture(const QImage& picture, const QString& path,
                                         const char* format)
 {
-    QSaveFile file(nativePath(path));
-    bool ok = file.open(QIODevice::WriteOnly);
-    if (ok) {
-        QImageWriter writer(&file, format);
-        ok = writer.write(picture) && file.commit();
-    }
+    const bool ok = writePicture(picture, nativePath(path), format);
     WaitForFileReady(path);
     return ok;
 }
@@ -560,11 +574,14 @@ bool VeroProcedure_Basical::SavePictureAsPNG(const QImage& picture, const QStrin
     return savePicture(picture, path, "png");
 }
 
+bool VeroProcedure_Basical::SavePictureAsBMP(const QImage& picture, const QString& path)
+{
+    return savePicture(picture, path, "bmp");
+}
+
 QImage VeroProcedure_Basical::LoadPictureByPNGObject(const QString& path) const
 {
-    QImageReader reader(nativePath(path));
-    reader.setAutoTransform(false);
-    return reader.read();
+    return readPicture(nativePath(path));
 }
 
 QString VeroProcedure_Basical::MovieWrapperHtml(const QString& movie)

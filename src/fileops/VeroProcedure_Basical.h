@@ -6,6 +6,7 @@
 #pragma once
 
 #include "fileops/BasicText.h"
+#include "platform/RegularFile.h"
 #include "platform/Services.h"
 
 #include <QImage>
@@ -38,12 +39,17 @@ public:
     void MoveFileByPair(const QString& pair);
     void CopyFileByPair(const QString& pair);
     void RefreshFileControls();
-    void WriteTextToFile(const QString& text, const QString& path);
-    QString ReadTextOfFile(const QString& path);
+    // False when the file couldn't be written; an old file then stays whole.
+    bool WriteTextToFile(const QString& text, const QString& path);
+    // Reads no more than `limit` bytes: a larger file, like one that isn't a
+    // regular file, can't be read. Settings files pass kSettingsFileLimit.
+    QString ReadTextOfFile(const QString& path, qint64 limit = kListFileLimit);
     int CleanListFile(const QString& path);
     // The same, handing back the text now in the file (lines parted and
-    // ended by CR LF), so that a reader need not read it again.
-    int CleanListFile(const QString& path, QString* cleanedText);
+    // ended by CR LF), so that a reader need not read it again. Without
+    // `rewrite` the file is left as it is (a list that isn't the program's
+    // own copy) and only the text is cleaned.
+    int CleanListFile(const QString& path, QString* cleanedText, bool rewrite = true);
 
     // Waits, sound and messages.
     void WaitMilliseconds(double milliseconds);
@@ -53,12 +59,14 @@ public:
     void BeepBurst();
     void ShowFloatingMessage(int leftTwips, int topTwips, const QString& text);
 
-    // Platform and pictures.
+    // Platform and pictures. Pictures are read and written through
+    // platform/PictureFile.h: upright, refused when too large, saved whole.
     QString BrowseForFolder(QString& title);
     QString GetWindowsFolder() const;
     QString GetSystemFolder() const;
     bool SavePictureAsJPG(const QImage& picture, const QString& path);
     bool SavePictureAsPNG(const QImage& picture, const QString& path);
+    bool SavePictureAsBMP(const QImage& picture, const QString& path); // SavePicture
     QImage LoadPictureByPNGObject(const QString& path) const;
     void MakeMovieWrapperHtml(const QString& movie, const QString& path);
 
@@ -77,7 +85,7 @@ public:
 
 private:
     struct ReadResult;
-    ReadResult readLinesChunked(const QString& path, bool cleaning);
+    ReadResult readLinesChunked(const QString& path, bool cleaning, qint64 limit);
     QString nativePath(const QString& path) const;
     void setCaption(const QString& caption);
     bool savePicture(const QImage& picture, const QString& path, const char* format);

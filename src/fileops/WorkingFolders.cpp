@@ -2,6 +2,7 @@
 
 #include "fileops/VeroProcedure_Basical.h"
 #include "platform/FileSystem.h"
+#include "platform/SafeFile.h"
 #include "state/ProgramState.h"
 
 namespace lumen {
@@ -18,6 +19,15 @@ void makeWorkingFolders(VeroProcedure_Basical& basics)
     for (const QString& folder : {basics.state().DataDir, basics.state().ProgramRunDir}) {
         if (fs.dir(folder + QStringLiteral("\\*.*")).isEmpty())
             fs.makeFolder(folder);
+    }
+}
+
+void removeStagedLeftovers(VeroProcedure_Basical& basics)
+{
+    const FileSystem& fs = basics.services().fs;
+    for (const QString& folder : {basics.state().DataDir, basics.state().ProgramRunDir}) {
+        if (const QString native = fs.toNative(folder); !native.isEmpty())
+            removeStaleStagedFiles(native);
     }
 }
 

@@ -13,4 +13,8 @@ void setWorkingFolderNames(ProgramState& state);
 // exists but is empty is simply tried again, and the failure passed over.
 void makeWorkingFolders(VeroProcedure_Basical& basics);
 
+// Removes from both working folders the staged files that a write cut short
+// by a kill left behind (older than a minute, of no running process).
+void removeStagedLeftovers(VeroProcedure_Basical& basics);
+
 } // namespace lumen

@@ -75,7 +75,8 @@ void FormMakeHTML::Form_Load()
 
 void FormMakeHTML::readWordFile()
 {
-    const QStringList words = replaceWordsFromText(basics_.ReadTextOfFile(wordFilePath()));
+    const QStringList words =
+        replaceWordsFromText(basics_.ReadTextOfFile(wordFilePath(), kSettingsFileLimit));
     for (int row = 0; row < words.size(); ++row) {
         maker_.ReplaceWordTable.set(kColWord, row, words[row]);
         ExchageWord[row]->setText(words[row]);
@@ -84,7 +85,8 @@ void FormMakeHTML::readWordFile()
 
 void FormMakeHTML::readFormValKeep()
 {
-    const QStringList lines = textLines(basics_.ReadTextOfFile(formValKeepPath()));
+    const QStringList lines =
+        textLines(basics_.ReadTextOfFile(formValKeepPath(), kSettingsFileLimit));
     for (int field = 0; field < kSiteFields && field < lines.size(); ++field) {
         const QString& line = lines[field];
         fields_[field]->setText(line);

@@ -2,9 +2,9 @@
 
 #include "fileops/VeroProcedure_Basical.h"
 #include "platform/FileSystem.h"
+#include "platform/RegularFile.h"
+#include "platform/SafeFile.h"
 #include "platform/UserDialogs.h"
-
-#include <QSaveFile>
 
 #include <lame/lame.h>
 #include <sndfile.h>
@@ -52,24 +52,22 @@ bool configure(lame_global_flags* encoder, const SF_INFO& info, int rate)
     return lame_init_params(encoder) >= 0;
 }
 
-bool writeBytes(QSaveFile& out, const std::vector<unsigned char>& bytes, int count)
+bool writeBytes(StagedFile& out, const std::vector<unsigned char>& bytes, int count)
 {
-    return count <= 0 || out.write(reinterpret_cast<const char*>(bytes.data()), count) == count;
+    return count <= 0 || out.write(reinterpret_cast<const char*>(bytes.data()), count);
 }
 
 // The closing frames, then the information frame at the head of the file,
 // which tells decoders the exact length of the sound.
-bool finish(lame_global_flags* encoder, QSaveFile& out, std::vector<unsigned char>& bytes)
+bool finish(lame_global_flags* encoder, StagedFile& out, std::vector<unsigned char>& bytes)
 {
     const int flushed = lame_encode_flush(encoder, bytes.data(), int(bytes.size()));
     if (flushed < 0 || !writeBytes(out, bytes, flushed))
         return false;
     const size_t tag = lame_get_lametag_frame(encoder, bytes.data(), bytes.size());
-    if (tag > 0 && tag <= bytes.size()) {
-        const qint64 end = out.pos();
-        if (!out.seek(0) || !writeBytes(out, bytes, int(tag)) || !out.seek(end))
-            return false;
-    }
+    if (tag > 0 && tag <= bytes.size() &&
+        !out.writeAt(0, reinterpret_cast<const char*>(bytes.data()), qint64(tag)))
+        return false;
     return out.commit();
 }
 
@@ -90,7 +88,10 @@ void ConvertWavToMp3(VeroProcedure_Basical& basics, const QString& wavPath, cons
     const FileSystem& fs = basics.services().fs;
 
     SF_INFO info{};
-    const QByteArray input = fs.toNative(wavPath).toLocal8Bit();
+    const QString native = fs.toNative(wavPath);
+    // Only a regular file is opened: a pipe would block.
+    const QByteArray input =
+        pathKind(native) == PathKind::Regular ? native.toLocal8Bit() : QByteArray();
     const SoundFile sound(input.isEmpty() ? nullptr : sf_open(input.constData(), SFM_READ, &info));
     if (!sound) {
         // A file that can't be read is told apart from one in no known format.
@@ -99,9 +100,12 @@ void ConvertWavToMp3(VeroProcedure_Basical& basics, const QString& wavPath, cons
         return;
     }
     const QString output = fs.toNative(mp3Path);
-    QSaveFile out(output);
-    if (!configure(encoder.get(), info, Mp3BitRate(percent)) || output.isEmpty() ||
-        !out.open(QIODevice::WriteOnly)) {
+    if (!configure(encoder.get(), info, Mp3BitRate(percent)) || output.isEmpty()) {
+        ui.msgBox(kMp3SetupMessage);
+        return;
+    }
+    StagedFile out(output, Durability::Synced);
+    if (!out.isOpen()) {
         ui.msgBox(kMp3SetupMessage);
         return;
     }
@@ -120,7 +124,7 @@ void ConvertWavToMp3(VeroProcedure_Basical& basics, const QString& wavPath, cons
                 : lame_encode_buffer_ieee_float(encoder.get(), samples.data(), samples.data(),
                                                 count, bytes.data(), int(bytes.size()));
         if (encoded < 0) {
-            out.cancelWriting();
+            out.fail();
             ui.msgBox(kMp3FrameMessage + QString::number(encoded));
             return;
         }

@@ -6,10 +6,8 @@
 #include "platform/Basic.h"
 #include "platform/Colors.h"
 #include "platform/FileSystem.h"
+#include "platform/PictureFile.h"
 #include "state/ProgramState.h"
-
-#include <QImageWriter>
-#include <QSaveFile>
 
 namespace lumen {
 namespace {
@@ -132,11 +130,8 @@ QString SiteMaker::placeButtonPicture(const QString& chosen, const QImage& held,
         return target;
     }
     const QString target = L(folder + fixedName);
-    if (!held.isNull()) {
-        QSaveFile file(basics_.services().fs.toNative(target));
-        if (file.open(QIODevice::WriteOnly) && QImageWriter(&file, "bmp").write(held))
-            file.commit();
-    }
+    if (!held.isNull())
+        writePicture(held, basics_.services().fs.toNative(target), "bmp");
     return target;
 }
 

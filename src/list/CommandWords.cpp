@@ -161,7 +161,7 @@ void SetCommandWords(VeroProcedure_Basical& basics, const QString& mode)
     if (mode != QLatin1String("JP"))
         return;
     const QString file = basics.state().ProgramRunDir + kCommandListFile;
-    const auto text = readTextFile(basics.services().fs.toNative(file));
+    const auto text = readSettingsFile(basics.services().fs.toNative(file));
     if (text)
         applyUserCommandWords(words, *text);
 }

@@ -114,7 +114,7 @@ void readExtTypeSlots(StringGrid& slots, const QString& extTypeText)
 void ReadExtTypeToArray(VeroProcedure_Basical& basics)
 {
     const QString file = basics.state().ProgramRunDir + kExtTypeFile;
-    if (const auto text = readTextFile(basics.services().fs.toNative(file)))
+    if (const auto text = readSettingsFile(basics.services().fs.toNative(file)))
         readExtTypeSlots(basics.state().ExtTypeArray, *text);
 }
 

@@ -75,7 +75,8 @@ void FormHatenaDrive::Form_Load()
     const DirecDataRecord& record = basics_.state().DirecData;
     QFont font = this->font();
     const QString family = FixedText(record.DispFontName);
-    const int size = int(Val(FixedText(record.DispFontSize)));
+    qint16 size = 0; // a size that doesn't fit is passed over
+    StoreInt16(size, Val(FixedText(record.DispFontSize)));
     if (!family.isEmpty())
         font.setFamily(family);
     if (size > 0)

@@ -3,6 +3,8 @@
 #include "list/CommandWords.h"
 #include "platform/Basic.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 
 namespace lumen {
@@ -12,6 +14,7 @@ using namespace basic;
 
 const QString kCommentMark = QStringLiteral("<<<<<");
 constexpr int kMostLeadingBlanks = 20;
+constexpr qsizetype kStopStride = 1 << 16; // characters between two looks at the stop
 
 struct ItemKind {
     int start;       // index of the start word
@@ -57,39 +60,73 @@ bool isAscii(QStringView text)
     return true;
 }
 
-// The word in capitals equals the item's start word (already in capitals).
-bool sameInCapitals(QStringView word, bool wordAscii, const ListWords::Item& item)
+// The start word of the item named by `word`, compared in capitals: a word
+// longer than every start word is none (capitals never make a text shorter),
+// and a word that isn't plain ASCII is put in capitals once.
+const ListWords::Item* itemNamed(QStringView word, const ListWords& words)
 {
-    if (wordAscii && item.startAscii)
-        return word.size() == item.startCaps.size() &&
-               word.compare(item.startCaps, Qt::CaseInsensitive) == 0;
-    return UCase(word.toString()) == item.startCaps;
+    if (word.isEmpty() || word.size() > words.longestStart)
+        return nullptr;
+    if (isAscii(word)) {
+        for (const ListWords::Item& item : words.items) {
+            if (item.startAscii && word.size() == item.startCaps.size() &&
+                word.compare(item.startCaps, Qt::CaseInsensitive) == 0)
+                return &item;
+        }
+        return nullptr;
+    }
+    const QString caps = UCase(word.toString());
+    for (const ListWords::Item& item : words.items) {
+        if (caps == item.startCaps)
+            return &item;
+    }
+    return nullptr;
 }
+
+// The position of a word at or after a place in the line, for places that
+// only move on: a position found (or a search that found nothing) still
+// answers a later place as long as it lies at or after it, so that each word
+// scans each stretch of the line at most once. -1 when absent.
+class WordFinder {
+public:
+    qsizetype next(QStringView line, const QString& word, qsizetype from)
+    {
+        if (searched_ < 0 || from < searched_ || (found_ >= 0 && found_ < from)) {
+            const std::u16string_view haystack(reinterpret_cast<const char16_t*>(line.utf16()),
+                                               std::size_t(line.size()));
+            const std::u16string_view needle(reinterpret_cast<const char16_t*>(word.utf16()),
+                                             std::size_t(word.size()));
+            const std::size_t at = haystack.find(needle, std::size_t(from));
+            found_ = at == std::u16string_view::npos ? -1 : qsizetype(at);
+            searched_ = from;
+        }
+        return found_;
+    }
+
+private:
+    qsizetype searched_ = -1;
+    qsizetype found_ = -1;
+};
 
 // The end word is looked for from the "=" on: in lower case first, then as
 // it is stored. Mixed case isn't found. -1 when absent (0-based positions).
-qsizetype find(QStringView text, const QString& word, qsizetype from)
-{
-    const std::u16string_view haystack(reinterpret_cast<const char16_t*>(text.utf16()),
-                                       std::size_t(text.size()));
-    const std::u16string_view needle(reinterpret_cast<const char16_t*>(word.utf16()),
-                                     std::size_t(word.size()));
-    const std::size_t at = haystack.find(needle, std::size_t(from));
-    return at == std::u16string_view::npos ? -1 : qsizetype(at);
-}
+struct EndWordFinder {
+    WordFinder lower;
+    WordFinder stored;
 
-qsizetype findEndWord(QStringView line, qsizetype equals, const ListWords::Item& item,
-                      bool lowerPossible)
-{
-    if (item.end.isEmpty())
-        return -1;
-    if (lowerPossible || item.endLower == item.end) {
-        const qsizetype lower = find(line, item.endLower, equals);
-        if (lower >= 0 || item.endLower == item.end)
-            return lower;
+    qsizetype next(QStringView line, qsizetype equals, const ListWords::Item& item,
+                   bool lowerPossible)
+    {
+        if (item.end.isEmpty())
+            return -1;
+        if (lowerPossible || item.endLower == item.end) {
+            const qsizetype at = lower.next(line, item.endLower, equals);
+            if (at >= 0 || item.endLower == item.end)
+                return at;
+        }
+        return stored.next(line, item.end, equals);
     }
-    return find(line, item.end, equals);
-}
+};
 
 } // namespace
 
@@ -118,6 +155,7 @@ ListWords::ListWords(const QStringList& commandWord)
         const QString lower = LCase(end);
         const QString caps = UCase(commandWord.value(kind.start));
         items.append({kind.start, caps, isAscii(caps), end, lower, kind.end});
+        longestStart = std::max(longestStart, caps.size());
         if (lower == end)
             continue;
         anyLowerDiffers = true;
@@ -150,7 +188,8 @@ ParsedLine parseListLine(QStringView line, const ListWords& words)
     return parsed;
 }
 
-void parseListLineViews(QStringView line, const ListWords& words, ListRowViews& row)
+void parseListLineViews(QStringView line, const ListWords& words, ListRowViews& row,
+                        const std::function<bool()>& stop)
 {
     const QStringView view = line;
     const qsizetype firstAt = view.indexOf(QLatin1Char('@'));
@@ -160,31 +199,33 @@ void parseListLineViews(QStringView line, const ListWords& words, ListRowViews& 
     }
     row.main = TrimView(view.left(firstAt));
     const bool lowerPossible = words.anyLowerDiffers && (words.lowerPrefix.isEmpty() ||
-                                                         find(view, words.lowerPrefix, 0) >= 0);
-    // Each "@" in turn; every turn uses up at least one, so the count of "@"
-    // bounds the turns by itself.
+                                                         view.indexOf(words.lowerPrefix) >= 0);
+    // Each "@" in turn. Every search starts at or after where the one before
+    // it stopped, so the line is read a few times over at most, whatever it
+    // holds: a line of a million "@" costs what a line of a million letters
+    // does.
+    EndWordFinder ends[std::size(kItems)];
     qsizetype from = 0;
+    qsizetype asked = 0;
     for (;;) {
         const qsizetype at = view.indexOf(QLatin1Char('@'), from);
         if (at < 0)
             break;
+        if (stop && at - asked >= kStopStride) {
+            asked = at;
+            if (stop())
+                break;
+        }
         const qsizetype equals = view.indexOf(QLatin1Char('='), at);
         if (equals < 0)
             break;
-        const QStringView word = view.mid(at + 1, equals - at - 1);
-        const bool wordAscii = isAscii(word);
-        const ListWords::Item* item = nullptr;
-        for (const ListWords::Item& candidate : words.items) {
-            if (sameInCapitals(word, wordAscii, candidate)) {
-                item = &candidate;
-                break;
-            }
-        }
-        if (!item) {
-            from = at + 1; // not a start word: passed over
-            continue;
-        }
-        const qsizetype end = findEndWord(view, equals, *item, lowerPossible);
+        // A word that is no start word (an empty one too) ends the items of
+        // the line; those before it stay.
+        const ListWords::Item* item = itemNamed(view.mid(at + 1, equals - at - 1), words);
+        if (!item)
+            break;
+        const qsizetype end =
+            ends[item - words.items.constData()].next(view, equals, *item, lowerPossible);
         if (end < 0) {
             row.missingEndWord = QStringLiteral(" There is no word ") + QLatin1String(item->name);
             break;

@@ -1,11 +1,16 @@
 // The grammar of a list line: a main file, then items "@WORD=value ENDWORD"
 // for the companion file, the delay, the comment or comment file and the
-// option word. Words are those of CommandWord at load time.
+// option word. Words are those of CommandWord at load time. An "@" whose word
+// (up to the next "=") is no start word ends the items of the line, as the
+// list editor reads it too; the items before it stay. Parsing takes time in
+// proportion to the length of the line, whatever the line holds.
 #pragma once
 
 #include <QString>
 #include <QStringList>
 #include <QStringView>
+
+#include <functional>
 
 namespace lumen {
 
@@ -50,6 +55,7 @@ struct ListWords {
     // lower-case end word, and those searches are spared.
     QString lowerPrefix;
     bool anyLowerDiffers = false;
+    qsizetype longestStart = 0; // the longest start word in capitals
 };
 
 // A parsed line as views into the line (the comment, which is changed, into
@@ -63,7 +69,10 @@ struct ListRowViews {
     QString commentText; // holds the stored form of an inline comment
     QString missingEndWord;
 };
-void parseListLineViews(QStringView line, const ListWords& words, ListRowViews& row);
+// `stop`, when given, is asked every 64K characters of a long line: true
+// ends the parse there (the loader's stop, which pumps events as it asks).
+void parseListLineViews(QStringView line, const ListWords& words, ListRowViews& row,
+                        const std::function<bool()>& stop = {});
 
 // Parses one command line with the words of `commandWord` (index 1 to 34).
 ParsedLine parseListLine(QStringView line, const QStringList& commandWord);

@@ -9,6 +9,8 @@
 #include "platform/UserDialogs.h"
 #include "state/ProgramState.h"
 
+#include <algorithm>
+
 namespace lumen {
 namespace {
 
@@ -32,16 +34,19 @@ QString workingCopyName(const VeroProcedure_Basical& basics)
     return basics.state().ProgramRunDir + QStringLiteral("\\TempList.Lst");
 }
 
-int prepareWorkingCopy(VeroProcedure_Basical& basics, const QString& fileName, QString* text)
+int prepareWorkingCopy(VeroProcedure_Basical& basics, const QString& fileName, QString* text,
+                       QString* source)
 {
     ProgramState& state = basics.state();
     state.DirecData.LastListFile = fileName;
     state.AppDrive = Left(state.ProgramFolder, 2);
     const QString copy = workingCopyName(basics);
     FileSystem& fs = basics.services().fs;
-    if (fs.toNative(fileName) != fs.toNative(copy))
-        fs.copyFile(fileName, copy);
-    const int count = basics.CleanListFile(copy, text);
+    const bool copied = fs.toNative(fileName) == fs.toNative(copy) || fs.copyFile(fileName, copy);
+    const QString read = copied ? copy : fileName;
+    if (source)
+        *source = read;
+    const int count = basics.CleanListFile(read, text, copied);
     if (count > kMostListRows) {
         basics.services().ui.msgBox(
             QStringLiteral("選択したファイル数は ") + QString::number(count) +
@@ -62,6 +67,11 @@ ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int c
     state.ListFileName = workingCopyName(basics);
 
     const ListWords words(state.CommandWord);
+    // Within a long line too, events run and a stop acts.
+    const auto stop = [&basics, &state] {
+        basics.DoEvents();
+        return state.StopRequested;
+    };
     ListFill fill;
     QString display;
     if (withDisplayText)
@@ -98,7 +108,11 @@ ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int c
             break;
         }
         ListRowViews parsed;
-        parseListLineViews(line, words, parsed);
+        parseListLineViews(line, words, parsed, stop);
+        if (state.StopRequested) {
+            fill.stopped = true;
+            return fill;
+        }
         setRow(state.ListArray, fill.fileCount, parsed);
         if (!parsed.missingEndWord.isEmpty())
             basics.services().ui.msgBox(parsed.missingEndWord);
@@ -115,6 +129,29 @@ ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int c
     if (withDisplayText)
         fill.displayText = Trim(display) + QLatin1Char('\r');
     return fill;
+}
+
+QString listViewText(const QString& displayText)
+{
+    QString view;
+    view.reserve(std::min<qsizetype>(displayText.size(), qsizetype(kLongestViewLine) * 64));
+    for (QStringView line : QStringView(displayText).split(u'\n')) {
+        if (!view.isEmpty())
+            view += u'\n';
+        if (line.endsWith(u'\r'))
+            line.chop(1);
+        if (line.size() > kLongestViewLine) {
+            view += line.left(kLongestViewLine);
+            view += u'…';
+        } else {
+            view += line;
+        }
+    }
+    // The line ends behind the text go; blanks were trimmed already, and tabs
+    // and ideographic spaces stay.
+    while (view.endsWith(u'\n'))
+        view.chop(1);
+    return view;
 }
 
 } // namespace lumen

@@ -3,6 +3,7 @@
 #include "platform/FileSystem.h"
 
 #include <QFileInfo>
+#include <QSet>
 
 namespace lumen {
 namespace {
@@ -163,18 +164,26 @@ void FileListBox::refresh()
     clear();
     if (path_.isEmpty())
         return;
+    // One pattern gives the names in listing order already.
     QStringList names = executablesOnly_ ? executableNames() : matchingNames();
-    names.sort(Qt::CaseInsensitive);
+    if (executablesOnly_ || pattern_.contains(QLatin1Char(';')))
+        names.sort(Qt::CaseInsensitive);
     addItems(names);
 }
 
 QStringList FileListBox::matchingNames() const
 {
+    const QStringList patterns = pattern_.split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    if (patterns.size() == 1)
+        return fs_.files(path_, patterns.first().trimmed());
     QStringList names;
-    for (const QString& pattern : pattern_.split(QLatin1Char(';'), Qt::SkipEmptyParts)) {
+    QSet<QString> seen;
+    for (const QString& pattern : patterns) {
         for (const QString& name : fs_.files(path_, pattern.trimmed())) {
-            if (!names.contains(name))
+            if (!seen.contains(name)) {
+                seen.insert(name);
                 names << name;
+            }
         }
     }
     return names;

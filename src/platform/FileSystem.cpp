@@ -1,17 +1,22 @@
 #include "platform/FileSystem.h"
 
 #include "platform/FolderIndex.h"
+#include "platform/RegularFile.h"
+#include "platform/SafeFile.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QStringDecoder>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
 #include <filesystem>
+#include <sys/sendfile.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -46,6 +51,8 @@ bool hasWildcards(const QString& name)
     return name.contains(u'*') || name.contains(u'?');
 }
 
+constexpr std::size_t kCopyChunk = 1 << 24;
+
 bool isDriveSpec(const QString& text)
 {
     return text.size() >= 2 && text.at(1) == u':';
@@ -58,12 +65,13 @@ bool existsOrLink(const QString& native)
     return ::lstat(QFile::encodeName(native).constData(), &status) == 0;
 }
 
-// A name the program form can spell holds no "\". Names whose bytes aren't
+// A name the program form can spell holds no "\", and no line break, which
+// no line of a list or a settings file could hold. Names whose bytes aren't
 // UTF-8 decode to U+FFFD and so name no file: the type filters of the
 // listings (files, folders) leave them out already.
 bool fitsProgramForm(const QString& name)
 {
-    return !name.contains(kSeparator);
+    return !name.contains(kSeparator) && !name.contains(u'\r') && !name.contains(u'\n');
 }
 
 bool lessInByteOrder(const QString& a, const QString& b)
@@ -91,19 +99,32 @@ QString findIgnoringCase(const QString& folder, const QString& name)
     return best;
 }
 
-// The bytes of the file `source` into the new file `staged`, with the
-// source's mode bits; the kernel copies (sendfile). A failed copy leaves no
-// staged file.
-bool copyBytes(const QString& source, const QString& staged)
+// The bytes of the regular file `source` into a file staged for `target`,
+// with the source's mode bits, renamed over the target when complete; the
+// kernel copies (sendfile). Anything but a regular file is never opened.
+bool copyBytes(const QString& source, const QString& target)
 {
-    const std::filesystem::path to(QFile::encodeName(staged).constData());
-    std::error_code error;
-    std::filesystem::remove(to, error); // a leftover of a copy that was cut short
-    std::filesystem::copy_file(QFile::encodeName(source).constData(), to, error);
-    if (!error)
-        return true;
-    std::filesystem::remove(to, error);
-    return false;
+    QFile from;
+    if (!openRegularFile(from, source))
+        return false;
+    StagedFile to(target, Durability::Quick);
+    if (!to.isOpen())
+        return false;
+    struct stat status {};
+    if (::fstat(from.handle(), &status) == 0)
+        to.setMode(status.st_mode & 07777);
+    for (;;) {
+        const ssize_t sent = ::sendfile(to.descriptor(), from.handle(), nullptr, kCopyChunk);
+        if (sent < 0 && errno == EINTR)
+            continue;
+        if (sent < 0) {
+            to.fail();
+            return false;
+        }
+        if (sent == 0)
+            break;
+    }
+    return to.commit();
 }
 
 // The entry of `folder` called `name`, exactly or else ignoring case.
@@ -137,22 +158,101 @@ QRegularExpression wildcardPattern(const QString& pattern)
                               QRegularExpression::CaseInsensitiveOption);
 }
 
+// Names against a set of patterns; "*" and "*.*" match every name without
+// the cost of an expression.
+class NameMatcher {
+public:
+    explicit NameMatcher(const QStringList& patterns)
+    {
+        for (const QString& pattern : patterns) {
+            const QString wanted = pattern.isEmpty() ? QStringLiteral("*") : pattern;
+            if (wanted == u"*" || wanted == u"*.*")
+                all_ = true;
+            else
+                expressions_.append(wildcardPattern(wanted));
+        }
+    }
+    bool matches(const QString& name) const
+    {
+        return all_ || std::any_of(expressions_.cbegin(), expressions_.cend(),
+                                   [&name](const auto& e) { return e.match(name).hasMatch(); });
+    }
+
+private:
+    bool all_ = false;
+    QList<QRegularExpression> expressions_;
+};
+
 QStringList sortedForListing(QStringList names)
 {
     std::sort(names.begin(), names.end(), listingLess);
     return names;
 }
 
+// A name as readdir gives it, when it is UTF-8.
+bool decodeEntryName(const char* raw, QString& name)
+{
+    const QByteArrayView bytes(raw);
+    if (std::all_of(bytes.begin(), bytes.end(), [](char c) { return uchar(c) < 0x80; })) {
+        name = QString::fromLatin1(bytes);
+        return true;
+    }
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    name = decoder(bytes);
+    return !decoder.hasError();
+}
+
+// The entries of a native folder, unsorted: normal files (links to them
+// included) and folders (real ones and links apart). Hidden names, names
+// that aren't UTF-8 or that the program form can't spell, links whose
+// target is gone, devices, pipes and sockets are left out. One readdir,
+// and a stat only where the entry's type doesn't tell (links).
+struct FolderEntries {
+    QStringList files;
+    QStringList folders;
+    QStringList linkedFolders;
+};
+
+std::optional<FolderEntries> readFolder(const QString& nativeFolder)
+{
+    DIR* folder = ::opendir(QFile::encodeName(nativeFolder).constData());
+    if (!folder)
+        return std::nullopt;
+    FolderEntries entries;
+    const int fd = ::dirfd(folder);
+    QString name;
+    while (const dirent* entry = ::readdir(folder)) {
+        if (entry->d_name[0] == '.' || !decodeEntryName(entry->d_name, name) ||
+            !fitsProgramForm(name))
+            continue;
+        unsigned char type = entry->d_type;
+        bool link = type == DT_LNK;
+        if (type == DT_LNK || type == DT_UNKNOWN) {
+            struct stat status {};
+            if (type == DT_UNKNOWN) {
+                if (::fstatat(fd, entry->d_name, &status, AT_SYMLINK_NOFOLLOW) != 0)
+                    continue;
+                link = S_ISLNK(status.st_mode);
+            }
+            if (link && ::fstatat(fd, entry->d_name, &status, 0) != 0)
+                continue; // the target is gone
+            type = S_ISDIR(status.st_mode) ? DT_DIR : S_ISREG(status.st_mode) ? DT_REG : DT_UNKNOWN;
+        }
+        if (type == DT_DIR)
+            (link ? entries.linkedFolders : entries.folders).append(name);
+        else if (type == DT_REG)
+            entries.files.append(name);
+    }
+    ::closedir(folder);
+    return entries;
+}
+
 // Normal files of a native folder that match the pattern, in listing order.
 QStringList matchingFiles(const QString& folder, const QString& pattern)
 {
-    const QRegularExpression match = wildcardPattern(pattern);
-    QStringList names;
-    // Without QDir::Hidden the dot names stay out.
-    for (const QString& name : QDir(folder).entryList(QDir::Files, QDir::Unsorted)) {
-        if (match.match(name).hasMatch() && fitsProgramForm(name))
-            names.append(name);
-    }
+    const NameMatcher matcher({pattern});
+    QStringList names = readFolder(folder).value_or(FolderEntries()).files;
+    names.removeIf([&matcher](const QString& name) { return !matcher.matches(name); });
     return sortedForListing(names);
 }
 
@@ -335,18 +435,12 @@ QString FileSystem::toNative(const QString& programPath) const
 void FileSystem::loadDrivesFile(const QString& nativeFolder)
 {
     const QString fileName = QDir(nativeFolder).filePath(QStringLiteral("Drives.txt"));
-    if (!QFileInfo::exists(fileName)) {
-        QSaveFile out(fileName);
-        if (out.open(QIODevice::WriteOnly)) {
-            out.write(DriveMap::defaultDrivesText().toUtf8());
-            out.commit();
-        }
-    }
+    if (pathKind(fileName) == PathKind::Missing)
+        writeFileSafely(fileName, DriveMap::defaultDrivesText().toUtf8());
     DriveMap drives(drives_.home());
-    QFile in(fileName);
-    if (in.open(QIODevice::ReadOnly)) {
+    if (const auto bytes = readRegularFile(fileName, kSettingsFileLimit)) {
         QStringDecoder decode(QStringDecoder::Utf8);
-        drives.addFromText(decode(in.readAll()));
+        drives.addFromText(decode(*bytes));
     }
     drives_ = drives;
 }
@@ -447,6 +541,13 @@ bool FileSystem::isLink(const QString& programPath) const
     return !native.isEmpty() && QFileInfo(native).isSymLink();
 }
 
+bool FileSystem::isSpecialFile(const QString& programPath) const
+{
+    const QString native = toNative(programPath);
+    return !native.isEmpty() && pathKind(native) == PathKind::Other &&
+           !isHiddenName(QFileInfo(native).fileName());
+}
+
 qint64 FileSystem::fileLength(const QString& programPath) const
 {
     const QString native = toNative(programPath);
@@ -474,13 +575,8 @@ QStringList FileSystem::folders(const QString& programFolder) const
     const QString folder = toNative(programFolder);
     if (folder.isEmpty())
         return {};
-    QStringList names;
-    // Without QDir::Hidden the dot-folders stay out.
-    for (const QString& name : QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        if (fitsProgramForm(name))
-            names.append(name);
-    }
-    return sortedForListing(names);
+    const FolderEntries entries = readFolder(folder).value_or(FolderEntries());
+    return sortedForListing(entries.folders + entries.linkedFolders);
 }
 
 FileSystem::FolderListing FileSystem::listFolder(const QString& programFolder,
@@ -488,34 +584,25 @@ FileSystem::FolderListing FileSystem::listFolder(const QString& programFolder,
 {
     FolderListing listing;
     const auto folderPath = absolute(programFolder);
-    const QString folder = folderPath ? nativeOf(resolved(*folderPath)) : QString();
-    if (folder.isEmpty())
+    if (!folderPath)
         return listing;
-    QList<QRegularExpression> matches;
-    for (const QString& pattern : patterns)
-        matches.append(wildcardPattern(pattern.isEmpty() ? QStringLiteral("*") : pattern));
-    const auto matchesAny = [&matches](const QString& name) {
-        return std::any_of(matches.cbegin(), matches.cend(),
-                           [&name](const auto& match) { return match.match(name).hasMatch(); });
-    };
-    // Without QDir::Hidden the dot names stay out; without QDir::System
-    // links whose target is gone do too.
-    const QFileInfoList entries =
-        QDir(folder).entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
-    for (const QFileInfo& entry : entries) {
-        const QString name = entry.fileName();
-        if (!fitsProgramForm(name))
-            continue;
-        if (entry.isDir())
-            (entry.isSymLink() ? listing.linkedFolders : listing.folders).append(name);
-        else if (matchesAny(name))
-            listing.files.append(name);
+    // A walk names folders as they stand on disk: the folder as spelled is
+    // read at once, and only a miss is looked for without regard to case.
+    std::optional<FolderEntries> read = readFolder(nativeOf(*folderPath));
+    if (!read) {
+        const QString folder = nativeOf(resolved(*folderPath));
+        read = folder.isEmpty() ? std::nullopt : readFolder(folder);
     }
+    if (!read)
+        return listing;
+    FolderEntries& entries = *read;
+    const NameMatcher matcher(patterns);
+    entries.files.removeIf([&matcher](const QString& name) { return !matcher.matches(name); });
     QStringList tracks = cdTracksIn(*folderPath);
-    tracks.removeIf([&matchesAny](const QString& track) { return !matchesAny(track); });
-    listing.files = withTracks(listing.files, tracks);
-    listing.folders = sortedForListing(listing.folders);
-    listing.linkedFolders = sortedForListing(listing.linkedFolders);
+    tracks.removeIf([&matcher](const QString& track) { return !matcher.matches(track); });
+    listing.files = withTracks(std::move(entries.files), tracks);
+    listing.folders = sortedForListing(std::move(entries.folders));
+    listing.linkedFolders = sortedForListing(std::move(entries.linkedFolders));
     return listing;
 }
 
@@ -531,20 +618,10 @@ bool FileSystem::copyFile(const QString& from, const QString& to)
     const QString target = toNative(to);
     if (source.isEmpty() || target.isEmpty())
         return false;
-    // Copied to a hidden file beside the target, then renamed over it: the
-    // target is never half-written. A source that is no file fails the copy,
-    // a target that is a folder fails the rename.
-    const QFileInfo targetInfo(target);
-    const QString staged = targetInfo.path() + QStringLiteral("/.") + targetInfo.fileName() +
-                           QStringLiteral(".%1.copy").arg(::getpid());
-    if (!copyBytes(source, staged))
-        return false;
-    if (::rename(QFile::encodeName(staged).constData(), QFile::encodeName(target).constData()) !=
-        0) {
-        ::unlink(QFile::encodeName(staged).constData());
-        return false;
-    }
-    return true;
+    // Staged beside the target, then renamed over it: the target is never
+    // half-written. A source that is no regular file fails the copy, and so
+    // does a target that is a folder or anything but a regular file.
+    return copyBytes(source, target);
 }
 
 bool FileSystem::renameFile(const QString& from, const QString& to)

@@ -67,9 +67,14 @@ public:
     // first in the order of `files`. A path ending in "\" lists its folder.
     QString dir(const QString& pathOrPattern) const;
 
-    bool isFile(const QString& programPath) const;       // normal, non-hidden file
-    bool isFolder(const QString& programPath) const;     // folder (followed links too)
-    bool isLink(const QString& programPath) const;       // a symbolic link itself
+    bool isFile(const QString& programPath) const;   // normal, non-hidden file
+    bool isFolder(const QString& programPath) const; // folder (followed links too)
+    bool isLink(const QString& programPath) const;   // a symbolic link itself
+    // Something that is neither a normal file nor a folder (a device, a named
+    // pipe, a socket, a link to one of those or to nothing), under a name
+    // that isn't hidden. Never opened; it counts as present where a missing
+    // file would be made with its default.
+    bool isSpecialFile(const QString& programPath) const;
     qint64 fileLength(const QString& programPath) const; // -1 when missing or a folder
 
     // Sorted names in a folder, without regard to case and then in byte

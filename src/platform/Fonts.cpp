@@ -4,6 +4,11 @@
 #include <QStringList>
 
 namespace lumen {
+namespace {
+
+constexpr double kLargestPointSize = 2160;
+
+} // namespace
 
 void installFontSubstitutes()
 {
@@ -32,7 +37,8 @@ QFont fontFrom(const QFont& base, const QString& storedName, double pointSize)
     const QString family = resolveFontFamily(storedName);
     if (!family.isEmpty())
         font.setFamily(family);
-    if (pointSize > 0)
+    // Sizes beyond the largest a font may have are passed over.
+    if (pointSize > 0 && pointSize <= kLargestPointSize)
         font.setPointSizeF(pointSize);
     return font;
 }

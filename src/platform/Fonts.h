@@ -16,7 +16,8 @@ void installFontSubstitutes();
 QString resolveFontFamily(const QString& storedName);
 
 // A copy of `base` with the stored family and size applied; an empty name or
-// a size that isn't positive leaves that part as it was.
+// a size that isn't positive, or is beyond 2160 points (not a number
+// either), leaves that part as it was.
 QFont fontFrom(const QFont& base, const QString& storedName, double pointSize);
 
 } // namespace lumen

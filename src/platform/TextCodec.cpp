@@ -1,6 +1,7 @@
 #include "platform/TextCodec.h"
 
 #include <QByteArrayView>
+#include <QStringDecoder>
 #include <QSysInfo>
 
 #include <algorithm>
@@ -53,6 +54,17 @@ bool readsAsUtf8(QByteArrayView bytes)
 bool isCp932LeadByte(uchar byte)
 {
     return (byte >= 0x81 && byte <= 0x9F) || byte >= 0xE0;
+}
+
+// The bytes that may begin and end a double-byte character of CP932.
+bool isPairLead(uchar byte)
+{
+    return (byte >= 0x81 && byte <= 0x9F) || (byte >= 0xE0 && byte <= 0xFC);
+}
+
+bool isPairTrail(uchar byte)
+{
+    return byte >= 0x40 && byte <= 0xFC && byte != 0x7F;
 }
 
 // The longest start of CP932 bytes that fits `width` without halving a
@@ -115,8 +127,12 @@ const std::vector<bool>& cp932Image()
 
 QString decode(const QByteArray& bytes)
 {
-    if (bytes.startsWith(kUtf8Bom))
-        return QString::fromUtf8(QByteArrayView(bytes).sliced(kUtf8Bom.size()));
+    if (bytes.startsWith(kUtf8Bom)) {
+        // One mark is the file's; a second is a character of the text
+        // (fromUtf8 would drop it too).
+        QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+        return utf8(QByteArrayView(bytes).sliced(kUtf8Bom.size()));
+    }
     if (QByteArrayView(bytes).isValidUtf8()) // pure ASCII too: it reads the same either way
         return QString::fromUtf8(bytes);
     return decodeCp932(bytes);
@@ -124,7 +140,7 @@ QString decode(const QByteArray& bytes)
 
 QString decodeCp932(const QByteArray& bytes)
 {
-    // Every CP932 character and every bad byte gives one UTF-16 unit.
+    // Every CP932 character and every bad byte or pair gives one UTF-16 unit.
     QString text(bytes.size(), Qt::Uninitialized);
     char* const begin = reinterpret_cast<char*>(text.data());
     char* out = begin;
@@ -139,13 +155,17 @@ QString decodeCp932(const QByteArray& bytes)
             break;
         if (outLeft < sizeof(char16_t)) // can't happen, see above; never write past the end
             break;
-        // A byte that isn't CP932, or a lead byte cut off at the end.
+        // A byte that isn't CP932, a lead byte cut off at the end, or a
+        // double-byte pair that maps to no character: one replacement each,
+        // so that the trail byte of a pair ("@" is 40) never stands alone.
         const char16_t replacement = QChar::ReplacementCharacter;
         std::memcpy(out, &replacement, sizeof replacement);
         out += sizeof replacement;
         outLeft -= sizeof replacement;
-        ++in;
-        --inLeft;
+        const std::size_t taken =
+            inLeft >= 2 && isPairLead(uchar(in[0])) && isPairTrail(uchar(in[1])) ? 2 : 1;
+        in += taken;
+        inLeft -= taken;
     }
     text.truncate((out - begin) / qsizetype(sizeof(char16_t)));
     return text;

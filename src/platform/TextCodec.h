@@ -13,7 +13,8 @@ namespace lumen::text {
 
 // A UTF-8 byte-order mark, or valid UTF-8 holding non-ASCII bytes, is UTF-8;
 // anything else is CP932. Bytes that aren't valid CP932 become U+FFFD, one
-// per bad byte, so that a damaged file still reads.
+// per bad byte, and one for a double-byte pair that maps to no character, so
+// that a damaged file still reads and a trail byte never stands alone.
 QString decode(const QByteArray& bytes);
 QString decodeCp932(const QByteArray& bytes);
 

@@ -2,19 +2,13 @@
 
 #include "platform/Basic.h"
 #include "platform/FileSystem.h"
+#include "select/WalkLevels.h"
 
 #include <QRegularExpression>
 
 namespace lumen {
 
 namespace {
-
-QString joinPath(const QString& folder, const QString& name)
-{
-    if (folder.endsWith(u'\\'))
-        return folder + name;
-    return folder + u'\\' + name;
-}
 
 QString collapseBackslashes(QString path)
 {
@@ -79,6 +73,13 @@ private:
     QStringList folders_;
 };
 
+QString levelFile(const FileSystem& fs, const QString& folder, const char* name)
+{
+    if (folder.isEmpty())
+        return QString();
+    return fs.toNative(folder + u'\\' + QLatin1String(name));
+}
+
 } // namespace
 
 QString FolderWalkResult::listText() const
@@ -89,43 +90,61 @@ QString FolderWalkResult::listText() const
     return text;
 }
 
+QString joinFolderAndName(const QString& folder, const QString& name)
+{
+    if (folder.endsWith(u'\\'))
+        return folder + name;
+    return folder + u'\\' + name;
+}
+
+bool staysOneMainFile(const QString& path)
+{
+    if (path.contains(u'\r') || path.contains(u'\n'))
+        return false;
+    return !(path.contains(u'@') && path.contains(u'='));
+}
+
 FolderWalkResult walkFolderTree(const FileSystem& fs, const QString& top,
-                                const FolderWalkOptions& options, const std::function<bool()>& stop)
+                                const FolderWalkOptions& options, const FolderWalkHooks& hooks)
 {
     FolderWalkResult result;
     const QString topFolder = collapseBackslashes(top);
     if (!fs.isFolder(topFolder))
         return result;
-    const auto stopNow = [&stop, &result] {
-        result.stopped = stop && stop();
+    const auto stopNow = [&hooks, &result] {
+        result.stopped = hooks.stop && hooks.stop();
         return result.stopped;
     };
-    const QStringList patterns = patternsOf(options.pattern);
     const WordFilter filter(options);
     const SkippedFolders skipped(fs, options.systemFolders);
+    WalkLevels levels(levelFile(fs, options.levelFolder, "Head.txt"),
+                      levelFile(fs, options.levelFolder, "Head2.txt"));
 
-    // The folders still to list, level after level: a folder's sub-folders
-    // join the end, behind the rest of its own level.
-    QStringList pending{topFolder};
-    for (qsizetype next = 0; next < pending.size(); ++next) {
+    // Each folder's sub-folders join the next level, behind those of the
+    // folders listed before it.
+    QString folder = topFolder;
+    do {
         if (stopNow())
             return result;
-        const QString folder = pending.at(next); // a copy: the list grows below
+        const QStringList patterns = patternsOf(hooks.pattern ? hooks.pattern() : options.pattern);
         const FileSystem::FolderListing listing = fs.listFolder(folder, patterns);
         ++result.folderCount;
+        const qsizetype first = result.files.size();
         for (const QString& name : listing.files) {
             if (stopNow())
                 return result;
-            const QString path = joinPath(folder, name);
-            if (filter.keeps(path, name))
+            const QString path = joinFolderAndName(folder, name);
+            if (staysOneMainFile(path) && filter.keeps(path, name))
                 result.files.append(path);
         }
+        if (hooks.folderListed)
+            hooks.folderListed(folder, result.files.mid(first));
         for (const QString& name : listing.folders) {
-            const QString path = joinPath(folder, name);
+            const QString path = joinFolderAndName(folder, name);
             if (!skipped.contains(path))
-                pending.append(path);
+                levels.add(path);
         }
-    }
+    } while (levels.take(folder));
     return result;
 }
 

@@ -4,7 +4,13 @@
 // down, ...), and in each folder its files in listing order. Folders whose
 // name begins with ".", folders that are symbolic links (so a link loop
 // ends) and the system's own trees (/proc, /sys, /dev, /run) are not entered.
-// The levels are kept in memory; nothing is written to disk.
+// A file whose path a list line couldn't hold as one main file is left out
+// (see staysOneMainFile).
+//
+// The folders still to list are kept in memory, or, as the selection window
+// walks, in Head.txt (the folders of the level being listed) and Head2.txt
+// (the next level) in a folder of the program's; both files are gone when
+// the walk ends, however it ends.
 #pragma once
 
 #include <QString>
@@ -32,6 +38,24 @@ struct FolderWalkOptions {
     // Native folders that are never entered below the top folder.
     QStringList systemFolders{QStringLiteral("/proc"), QStringLiteral("/sys"),
                               QStringLiteral("/dev"), QStringLiteral("/run")};
+
+    // A program-form folder for Head.txt and Head2.txt; empty keeps the
+    // levels in memory. Where the files can't be written, the walk goes on
+    // in memory: no folder is lost.
+    QString levelFolder;
+};
+
+// What a walk asks and tells as it goes; each may be left empty.
+struct FolderWalkHooks {
+    // Asked before each folder is listed and before each file is taken; true
+    // ends the walk there.
+    std::function<bool()> stop{};
+    // Asked before each folder is listed: its pattern, in place of the
+    // options' pattern (the filters of the selection window may change while
+    // a walk runs).
+    std::function<QString()> pattern{};
+    // Told after each folder is listed, with the paths it gave.
+    std::function<void(const QString& folder, const QStringList& files)> folderListed{};
 };
 
 struct FolderWalkResult {
@@ -43,11 +67,17 @@ struct FolderWalkResult {
     QString listText() const;
 };
 
-// Walks `top` (a program-form folder; a missing folder gives nothing). `stop`
-// is asked before each folder is listed and before each file is taken; when
-// it answers true the walk ends there.
+// Walks `top` (a program-form folder; a missing folder gives nothing).
 FolderWalkResult walkFolderTree(const FileSystem& fs, const QString& top,
                                 const FolderWalkOptions& options = {},
-                                const std::function<bool()>& stop = {});
+                                const FolderWalkHooks& hooks = {});
+
+// A folder and a name joined by "\", unless the folder ends in one.
+QString joinFolderAndName(const QString& folder, const QString& name);
+
+// A path that a line of a list holds as one main file, whole: no line break
+// in it, and not both an "@" and a "=" (with both, the line would be read as
+// a main file followed by items).
+bool staysOneMainFile(const QString& path);
 
 } // namespace lumen

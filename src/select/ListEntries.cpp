@@ -17,13 +17,14 @@ bool holdsColonAndDot(const QString& text)
 // A file's own line, or the list lines of a list file.
 QStringList fileLines(const FileSystem& fs, const QString& name)
 {
+    const QStringList itself = staysOneMainFile(name) ? QStringList{name} : QStringList();
     if (!basic::UCase(name).contains(QStringLiteral(".LST")))
-        return {name};
+        return itself;
     const QString nativeName = fs.toNative(name);
     const QStringList lines = text::splitLines(
         nativeName.isEmpty() ? QString() : readTextFile(nativeName).value_or(QString()));
     if (!holdsColonAndDot(lines.value(0)))
-        return {name};
+        return itself;
     QStringList kept;
     for (const QString& line : lines) {
         if (holdsColonAndDot(line))
@@ -35,16 +36,16 @@ QStringList fileLines(const FileSystem& fs, const QString& name)
 } // namespace
 
 QStringList listEntryLines(const FileSystem& fs, const QString& name, EntryRule rule,
-                           const FolderWalkOptions& options, const std::function<bool()>& stop)
+                           const TreeLister& tree)
 {
-    const auto tree = [&] { return walkFolderTree(fs, name, options, stop).files; };
+    const auto treeLines = [&] { return tree ? tree(name) : walkFolderTree(fs, name).files; };
     switch (rule) {
     case EntryRule::CommandLine:
-        return fs.isFolder(name) ? tree() : fileLines(fs, name);
+        return fs.isFolder(name) ? treeLines() : fileLines(fs, name);
     case EntryRule::Dropped:
         if (!name.contains(u':'))
             return {};
-        return name.contains(u'.') ? fileLines(fs, name) : tree();
+        return name.contains(u'.') ? fileLines(fs, name) : treeLines();
     }
     return {};
 }

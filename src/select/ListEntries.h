@@ -25,12 +25,17 @@ enum class EntryRule {
     Dropped,
 };
 
+// How a folder's tree is listed: its files, each one line. The selection
+// window lists through its own boxes and filters; without one, every file
+// of the tree is walked.
+using TreeLister = std::function<QStringList(const QString& folder)>;
+
 // The lines that `name` (program form) contributes. A list file is a list
 // when its first line holds both ":" and "."; then every line of it that
 // holds both is taken, as it stands. Otherwise, and when it can't be read,
-// the file is one line itself. Trees are walked with `options` and `stop`.
+// the file is one line itself, unless a list line can't hold its name as one
+// main file (staysOneMainFile): then it gives nothing.
 QStringList listEntryLines(const FileSystem& fs, const QString& name, EntryRule rule,
-                           const FolderWalkOptions& options = {},
-                           const std::function<bool()>& stop = {});
+                           const TreeLister& tree = {});
 
 } // namespace lumen

@@ -37,12 +37,12 @@ QStringList triggerWords(const QString& upperLine, int autoStartAt)
 }
 
 // Stores the words of one row; the 51st brings the message and ends them.
-void storeWords(UserDialogs& ui, AutoStartTable& table, int row, const QStringList& words)
+void storeWords(QStringList& messages, AutoStartTable& table, int row, const QStringList& words)
 {
     int index = 0;
     for (const QString& word : words) {
         if (++index > AutoStartTable::kLimit) {
-            ui.msgBox(kTooManyWords);
+            messages << kTooManyWords;
             return;
         }
         table.cells.set(index, row, word);
@@ -73,9 +73,15 @@ void CheckAuto_With(VeroProcedure_Basical& basics, AutoStartTable& table)
         basics.WaitMilliseconds(100);
     }
 
-    UserDialogs& ui = basics.services().ui;
+    for (const QString& message : fillAutoStartTable(table, readSendToListLines(basics)))
+        basics.services().ui.msgBox(message);
+}
+
+QStringList fillAutoStartTable(AutoStartTable& table, const QStringList& lines)
+{
+    QStringList messages;
     int row = 0;
-    for (const QString& fileLine : readSendToListLines(basics)) {
+    for (const QString& fileLine : lines) {
         const QString line = Trim(fileLine);
         if (isSendToListRemark(line))
             continue;
@@ -84,13 +90,14 @@ void CheckAuto_With(VeroProcedure_Basical& basics, AutoStartTable& table)
         if (autoStartAt == 0)
             continue;
         if (++row > AutoStartTable::kLimit) {
-            ui.msgBox(kTooManyApplications);
-            return;
+            messages << kTooManyApplications;
+            break;
         }
         table.AutoStartCount = row;
         table.cells.set(0, row, applicationName(line));
-        storeWords(ui, table, row, triggerWords(upper, autoStartAt));
+        storeWords(messages, table, row, triggerWords(upper, autoStartAt));
     }
+    return messages;
 }
 
 QString CheckAutoWith(const QString& fileName, const AutoStartTable& table, QString& forcedShowKind)

@@ -31,6 +31,8 @@ const QStringList& showKindWords();
 // empty line first. The 51st forcing line brings a message and ends the
 // reading; the 51st word of a line brings a message and ends that line.
 void CheckAuto_With(VeroProcedure_Basical& basics, AutoStartTable& table);
+// The reading itself, from the file's lines: the messages to show, in order.
+QStringList fillAutoStartTable(AutoStartTable& table, const QStringList& lines);
 
 // The name of the first row, in table order, one of whose words the file
 // name holds (both compared in capitals), or "" when none does. The rows end

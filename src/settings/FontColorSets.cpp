@@ -158,7 +158,7 @@ std::optional<FontColorSet> readSetFile(VeroProcedure_Basical& basics, const QSt
     const QString file = basics.state().ProgramRunDir + QLatin1Char('\\') + UCase(Trim(name));
     if (!basics.FileExists(file))
         return std::nullopt;
-    const auto text = readTextFile(basics.services().fs.toNative(file));
+    const auto text = readSettingsFile(basics.services().fs.toNative(file));
     if (!text || text->isEmpty())
         return std::nullopt;
     return parseSetLine(text->section(QLatin1Char('\n'), 0, 0).remove(QLatin1Char('\r')));

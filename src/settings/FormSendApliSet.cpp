@@ -87,7 +87,7 @@ void FormSendApliSet::Form_Load()
         writeDefaultSendToList(basics_);
         basics_.WaitMilliseconds(100);
     }
-    QString text = basics_.ReadTextOfFile(file);
+    QString text = basics_.ReadTextOfFile(file, kSettingsFileLimit);
     Text1->setPlainText(text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
 
     showProgramsOnly(true);

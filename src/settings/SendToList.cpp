@@ -80,7 +80,7 @@ QStringList defaultSendToListLines()
 QStringList readSendToListLines(const VeroProcedure_Basical& basics)
 {
     const std::optional<QString> text =
-        readTextFile(basics.services().fs.toNative(sendToListPath(basics.state())));
+        readSettingsFile(basics.services().fs.toNative(sendToListPath(basics.state())));
     return text ? text::splitLines(*text) : QStringList();
 }
 

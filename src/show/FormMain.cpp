@@ -44,6 +44,7 @@ FormMain::FormMain(VeroProcedure_Basical& basics, FormRegistry& forms, QWidget* 
     buildFrame2();
     buildFrame3();
     connectHandlers();
+    buildSelectCommands();
 }
 
 void FormMain::buildFrame1()
@@ -284,12 +285,7 @@ void FormMain::connectHandlers()
 
     addShowKeys(this, [this](ShowKey key) { showKey(key); });
 
-    // Commands whose work isn't in this build yet stand disabled.
-    for (QWidget* command : std::initializer_list<QWidget*>{
-             CommandModPic, CommandSaveImage, CommandEdit, CommandWriteCommentOnPic}) {
-        command->setEnabled(false);
-        command->setToolTip(QStringLiteral("準備中"));
-    }
+    connectPictureWork();
 }
 
 FormMain::~FormMain() = default;

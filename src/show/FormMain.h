@@ -17,6 +17,7 @@ class QLineEdit;
 class QPushButton;
 class QScrollBar;
 class QPlainTextEdit;
+class QMimeData;
 
 namespace lumen {
 
@@ -37,6 +38,8 @@ struct FormMainLinks {
     std::function<void()> endProgram;            // End
     std::function<void()> hideEditFrames;        // FormEdit's two entry frames
     std::function<void()> pasteCommentOnPicture; // CommandWriteCommentOnPic_Click
+    // Files dropped on CommandOpenFileList, handed to the file selection.
+    std::function<void(const QMimeData* dropped)> dropOnOpenFileList;
 };
 
 class FormMain : public FormBase {
@@ -64,6 +67,8 @@ public:
     QPushButton* CommandIELeft;
     QPushButton* CommandIERight;
     QPushButton* CommandExit;
+    QPushButton* CommandSelectFile; // FormSelectFile
+    QPushButton* CommandGiveFilter; // FormGiveFilter
 
     // ---- Frame2: picture work and modes
     QGroupBox* Frame2;
@@ -225,6 +230,14 @@ public:
     // the picture only while the picture work shows it.
     void setCommentVisible(bool shown);
 
+    // ---- Picture work (FormMainPictureWork.cpp)
+    void CommandModPic_Click();
+    void CommandSaveImage_Click();
+    void CommandWriteCommentOnPic_Click();
+    void CommandEdit_Click();
+    // The page's comment as text: the text after its mark, or the file it names.
+    QString pageCommentText();
+
 protected:
     void Form_Load() override;
     void Form_Unload(bool& cancel) override;
@@ -263,10 +276,12 @@ private:
     void showIn3DViewer(const FixedString<100>& viewerPath);
     void applySizeLimits();
     void buildFrame1();
+    void buildSelectCommands(); // FormMainSelect.cpp
     void buildFrame2();
     void buildFrame3();
     void buildDisplay();
     void connectHandlers();
+    void connectPictureWork();
     void applyFonts();
     bool isMaximized() const;
     void saveRecord();

@@ -16,6 +16,7 @@
 #include "platform/FormRegistry.h"
 #include "platform/Launcher.h"
 #include "platform/Media.h"
+#include "platform/RegularFile.h"
 #include "platform/UserDialogs.h"
 #include "settings/AutoStartTable.h"
 #include "settings/FormCommandConbo.h"
@@ -42,8 +43,8 @@ QString extensionOf(const QString& fileName)
 
 bool beginsWithRiff(const QString& nativePath)
 {
-    QFile file(nativePath);
-    return file.open(QIODevice::ReadOnly) && file.read(4) == "RIFF";
+    QFile file;
+    return openRegularFile(file, nativePath) && file.read(4) == "RIFF";
 }
 
 } // namespace
@@ -183,9 +184,7 @@ void FormMain::TakeMainAction()
         setLabelComment(QString());
     } else {
         HasComment = true;
-        const int mark = InStr(comment, kCommentMark);
-        const QString text =
-            mark >= 1 && mark <= 4 ? Mid(comment, mark + 7) : basics_.ReadTextOfFile(comment);
+        const QString text = pageCommentText();
         if (auto* window = static_cast<FormComment*>(forms_.form(QStringLiteral("FormComment"))))
             window->setCommentText(text);
         setLabelComment(text);
@@ -263,6 +262,16 @@ void FormMain::companionRule(bool pictureOrTextPage)
     KindMidi = false;
     if (HasComment && !HideComment)
         showCommentWindow();
+}
+
+QString FormMain::pageCommentText()
+{
+    // A comment held in the list begins with its mark; any other names a file.
+    const QString comment = state_.ListArray.at(kColComment, state_.PicNo);
+    if (comment.isEmpty())
+        return QString();
+    const int mark = InStr(comment, kCommentMark);
+    return mark >= 1 && mark <= 4 ? Mid(comment, mark + 7) : basics_.ReadTextOfFile(comment);
 }
 
 void FormMain::runOption(const QString& word)

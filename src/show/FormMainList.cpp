@@ -42,7 +42,8 @@ bool shownOwn(const QWidget* control)
 void FormMain::OpenFileList(const QString& fileName)
 {
     QString text;
-    const int count = prepareWorkingCopy(basics_, fileName, &text);
+    QString source;
+    const int count = prepareWorkingCopy(basics_, fileName, &text, &source);
     if (count < 0)
         return;
 
@@ -65,8 +66,10 @@ void FormMain::OpenFileList(const QString& fileName)
     // The whole file is read here, which clears a stop asked for before; the
     // text was read with the count already, unless the count found nothing.
     state_.StopRequested = false;
-    if (count == 0)
-        text = basics_.ReadTextOfFile(state_.ListFileName = workingCopyName(basics_));
+    if (count == 0) {
+        state_.ListFileName = workingCopyName(basics_);
+        text = basics_.ReadTextOfFile(source);
+    }
     const bool quick = CheckQuiCkWork->isChecked();
     const ListFill fill = fillListArray(basics_, text, count, !quick);
     FileCount = fill.fileCount; // a stop leaves the rows as far as read
@@ -80,11 +83,7 @@ void FormMain::OpenFileList(const QString& fileName)
         CommandNoText->adjustSize();
         twMove(Text1, 0, 0, twWidth(Picture1) - twWidth(CommandNoText) - 2 * kBesideText,
                twHeight(Picture1));
-        QString shown =
-            QString(fill.displayText).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-        while (shown.endsWith(QLatin1Char('\r')) || shown.endsWith(QLatin1Char('\n')))
-            shown.chop(1); // the line ends behind the text; blanks were trimmed already
-        Text1->setPlainText(shown);
+        Text1->setPlainText(listViewText(fill.displayText));
         Text1->show();
     }
 
@@ -208,14 +207,18 @@ void FormMain::LabelDo_Click()
 void FormMain::TextCount_Change()
 {
     ScrollGuard = true;
-    const int page = int(Val(TextCount->text()));
+    qint16 page = 0;
+    if (!StoreInt16(page, Val(TextCount->text())))
+        return; // a number that doesn't fit the page bar is passed over
     HScrollPicNom->setValue(page);
     showNavigatorPage(page);
 }
 
 void FormMain::TextTotal_Change()
 {
-    HScrollPicNom->setMaximum(int(Val(TextTotal->text())));
+    qint16 total = 0;
+    if (StoreInt16(total, Val(TextTotal->text())))
+        HScrollPicNom->setMaximum(total);
 }
 
 void FormMain::TextHeadName_Change()

@@ -188,7 +188,8 @@ void FormMain::CommandRecov_Click()
 {
     FileSystem& fs = basics_.services().fs;
     const QString recordFile = state_.ProgramRunDir + QStringLiteral("\\DelTempFName.txt");
-    const QString record = TrimLineEnds(readTextFile(fs.toNative(recordFile)).value_or(QString()));
+    const QString record =
+        TrimLineEnds(readSettingsFile(fs.toNative(recordFile)).value_or(QString()));
     const FilePair pair = SplitFilePair(record);
     const QString undo = Trim(pair.from);
     const QString original = Trim(pair.to);

@@ -43,9 +43,13 @@ ClickLabel* image(const QString& name, QStyle::StandardPixmap pixmap, QWidget* p
     return label;
 }
 
+// A count as a whole number; one that doesn't fit 32 bits is passed over
+// and counts as 0.
 int whole(double value)
 {
-    return int(RoundHalfEven(value));
+    qint32 stored = 0;
+    StoreInt32(stored, value);
+    return stored;
 }
 
 } // namespace

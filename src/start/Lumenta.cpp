@@ -16,6 +16,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Fonts.h"
 #include "platform/SafeFile.h"
+#include "select/FormSelectFile.h"
 #include "settings/FormSendApliSet.h"
 #include "settings/FormSendTo.h"
 #include "settings/FormSetAccessDirectry.h"
@@ -57,7 +58,13 @@ Lumenta::Lumenta(const Services& services, QStringList arguments, const QString&
     registerForms();
 }
 
-Lumenta::~Lumenta() = default;
+Lumenta::~Lumenta()
+{
+    // Once the registry has handed FormStop out, it goes with the other
+    // windows; it mustn't be deleted twice.
+    if (forms_.existing(QStringLiteral("FormStop")))
+        static_cast<void>(stop_.release());
+}
 
 const QStringList& Lumenta::unloadOrder()
 {
@@ -116,6 +123,8 @@ void Lumenta::registerForms()
         main->links.startWithFile = [this] { startWithFile_->StartWithFile(arguments_); };
         main->links.unloadAllForms = [this] { UnloadAllForms(); };
         main->links.endProgram = [this] { End(); };
+        wirePictureLinks(*main);
+        wireDropOnOpenFileList(*main);
         return main;
     });
     forms_.add(QStringLiteral("FormHatenaDrive"), [this]() -> FormBase* {
@@ -138,6 +147,8 @@ void Lumenta::registerForms()
     });
     registerShowForms();
     registerAutoPageForms();
+    registerPictureForms();
+    registerSelectForms();
     forms_.add(QStringLiteral("FormLumentaExit"), [this]() -> FormBase* {
         auto* exit = new FormLumentaExit(basics_, formMain());
         exit->unloadAllForms = [this] { UnloadAllForms(); };
@@ -155,6 +166,7 @@ void Lumenta::registerForms()
     };
     hooks.openFileList = [this](const QString& list) { formMain().OpenFileList(list); };
     hooks.endProgram = [this] { End(); };
+    hooks.listFolder = [this](const QString& folder) { return selectFile().ListFolder(folder); };
     startWithFile_ = std::make_unique<ModuleStartWithFile>(basics_, std::move(hooks));
 }
 
@@ -246,6 +258,7 @@ void Lumenta::Main()
     state_.WindowsFolder = basics_.GetWindowsFolder();
     state_.SystemFolder = basics_.GetSystemFolder();
     makeWorkingFolders(basics_);
+    removeStagedLeftovers(basics_);
     basics_.WriteTextToFile(state_.ProgramFolder + QLatin1Char('\\') + state_.ProgramName +
                                 QStringLiteral(".exe"),
                             settingsFile(QStringLiteral("StartFromWhere.dat")));
@@ -270,7 +283,9 @@ void Lumenta::readSmallSettingsFiles()
 {
     const QString allowance = settingsFile(QStringLiteral("PictureSizeAllowVal.dat"));
     if (basics_.FileExists(allowance)) {
-        state_.PictureSizeAllowVal = qint32(Val(basics_.ReadTextOfFile(allowance)));
+        // A number that doesn't fit is passed over: the allowance keeps its value.
+        StoreInt32(state_.PictureSizeAllowVal,
+                   Val(basics_.ReadTextOfFile(allowance, kSettingsFileLimit)));
     } else {
         basics_.WriteTextToFile(QStringLiteral("20"), allowance);
         state_.PictureSizeAllowVal = 20;
@@ -281,7 +296,8 @@ void Lumenta::readSmallSettingsFiles()
         state_.AccessPassDir = state_.DataDir;
         basics_.WriteTextToFile(state_.AccessPassDir, accessPass);
     } else {
-        state_.AccessPassDir = TrimLineEnds(basics_.ReadTextOfFile(accessPass).section('\r', 0, 0));
+        state_.AccessPassDir = TrimLineEnds(
+            basics_.ReadTextOfFile(accessPass, kSettingsFileLimit).section('\r', 0, 0));
     }
 
     // The folder the dialogs are locked to. A file written here locks it, but
@@ -291,7 +307,8 @@ void Lumenta::readSmallSettingsFiles()
         state_.AccessLockDir = state_.DataDir;
         basics_.WriteTextToFile(state_.AccessLockDir + QStringLiteral("\r\n1"), accessLock);
     } else {
-        const QStringList lines = basics_.ReadTextOfFile(accessLock).split(QStringLiteral("\r\n"));
+        const QStringList lines =
+            basics_.ReadTextOfFile(accessLock, kSettingsFileLimit).split(QStringLiteral("\r\n"));
         state_.AccessLockDir = TrimLineEnds(lines.value(0));
         state_.DirectryLock = Val(lines.value(1)) == 1 ? 1 : 0;
     }

@@ -17,6 +17,7 @@
 namespace lumen {
 
 class FormMain;
+class FormSelectFile;
 class FormStop;
 class ModuleStartWithFile;
 
@@ -51,6 +52,12 @@ private:
     void registerForms();
     void registerShowForms();
     void registerAutoPageForms(); // LumentaShowForms.cpp
+    void registerPictureForms();  // LumentaPictureForms.cpp
+    void wirePictureLinks(FormMain& main);
+    void registerSelectForms();   // LumentaSelectForms.cpp
+    FormSelectFile& selectFile(); // made and loaded
+    void wireDropOnOpenFileList(FormMain& main);
+    QList<QWidget*> selectEditTextControls(); // the selection's boxes, once it is made
     SetTargets setTargets();
     void openOneFile(const QString& file);
     void readSmallSettingsFiles();

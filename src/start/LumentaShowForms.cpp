@@ -41,7 +41,8 @@ SetTargets Lumenta::setTargets()
     targets.pictureArea = [this]() -> QWidget* { return formMain().Picture1; };
     targets.smallControls = [this] {
         FormMain& main = formMain();
-        return QList<QWidget*>{main.TextFileName, main.TextHeadName, main.TextNum};
+        return QList<QWidget*>{main.TextFileName, main.TextHeadName, main.TextNum} +
+               selectEditTextControls();
     };
     return targets;
 }

@@ -122,8 +122,12 @@ void ModuleStartWithFile::BuildStartList()
     FileSystem& fs = basics_.services().fs;
     const QString positionsFile = fs.toNative(programRunFile(kNamePositions));
     const QStringList lines = text::splitLines(
-        positionsFile.isEmpty() ? QString() : readTextFile(positionsFile).value_or(QString()));
-    const auto stop = [this] { return stopRequested(); };
+        positionsFile.isEmpty() ? QString() : readSettingsFile(positionsFile).value_or(QString()));
+    const TreeLister tree =
+        hooks_.listFolder ? hooks_.listFolder : [this, &fs](const QString& folder) {
+            return walkFolderTree(fs, folder, {}, {.stop = [this] { return stopRequested(); }})
+                .files;
+        };
 
     QString list;
     for (const QString& line : lines) {
@@ -132,12 +136,14 @@ void ModuleStartWithFile::BuildStartList()
             continue;
         if (stopRequested())
             break;
-        const int first = int(Val(fields.at(1)));
-        const int last = int(Val(fields.at(2)));
+        qint32 first = 0; // a position that doesn't fit is passed over
+        qint32 last = 0;
+        StoreInt32(first, Val(fields.at(1)));
+        StoreInt32(last, Val(fields.at(2)));
         if (first < 1 || last < first)
             continue;
         const QString name = Mid(commandLineText_, first, last - first + 1);
-        for (const QString& entry : listEntryLines(fs, name, EntryRule::CommandLine, {}, stop))
+        for (const QString& entry : listEntryLines(fs, name, EntryRule::CommandLine, tree))
             list += entry + kCrLf;
     }
     writeTextFileSafely(fs.toNative(dataFile(kStartList)), list);

@@ -20,6 +20,10 @@ struct StartWithFileHooks {
     std::function<void()> showMainAndStop;            // FormStop at FormMain's position, both shown
     std::function<void(const QString&)> openFileList; // OpenFileList with a program-form path
     std::function<void()> endProgram;                 // End
+    // A folder named on the command line, listed through the selection
+    // window (its Dir1 set to it, then its listing); the files, one a line.
+    // Without it the whole tree is walked.
+    std::function<QStringList(const QString& folder)> listFolder;
 };
 
 class ModuleStartWithFile {

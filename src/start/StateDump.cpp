@@ -1,5 +1,6 @@
 #include "start/StateDump.h"
 
+#include "display/PictureBox.h"
 #include "platform/FileSystem.h"
 #include "platform/SafeFile.h"
 #include "show/FormMain.h"
@@ -18,6 +19,20 @@ namespace lumen {
 namespace {
 
 int signalPipe[2] = {-1, -1};
+
+// The controls of picture work that whole-program tests press.
+constexpr const char* kPictureWorkControls[] = {"CommandModPic",
+                                                "CommandSaveImage",
+                                                "CommandWriteCommentOnPic",
+                                                "OptionSplineClose",
+                                                "CommandStartDrawLine",
+                                                "CommandDoSpline",
+                                                "CommandStopDrawLine",
+                                                "CommandStartPaintColor",
+                                                "CommandStopDrawPaint",
+                                                "CommandSavePicPNG",
+                                                "CommandPast",
+                                                "CommandSetText"};
 
 void onSignal(int)
 {
@@ -71,18 +86,32 @@ QString StateDump::text() const
                      .arg(place.y())
                      .arg(place.width())
                      .arg(place.height());
-        for (const char* name :
-             {"CommandFull", "CommandOption", "CommandExit", "CommandStart", "CommandNoText",
-              "LabelDo", "CommandStop", "CommandToNormalSize"}) {
+        const auto clickable = [&](const char* name) {
             const auto* button = window->findChild<QWidget*>(QString::fromLatin1(name));
             if (!button || !button->isVisible() || button->window() != window)
-                continue;
+                return;
             const QPoint centre = button->mapToGlobal(button->rect().center());
             lines << QStringLiteral("Click.%1.%2=%3 %4")
                          .arg(window->objectName(), QString::fromLatin1(name))
                          .arg(centre.x())
                          .arg(centre.y());
-        }
+        };
+        for (const char* name :
+             {"CommandFull", "CommandOption", "CommandExit", "CommandStart", "CommandNoText",
+              "LabelDo", "CommandStop", "CommandToNormalSize", "CommandSelectFile",
+              "CheckQuiCkWork", "CommandAll", "CommandSaveFile"})
+            clickable(name);
+        for (const char* name : kPictureWorkControls)
+            clickable(name);
+    }
+    // Where the picture on show lies on the screen, for pointing at its pixels.
+    if (main.Picture2->isVisible()) {
+        const QPoint corner = main.Picture2->mapToGlobal(QPoint(0, 0));
+        lines << QStringLiteral("Place.FormMain.Picture2=%1 %2 %3 %4")
+                     .arg(corner.x())
+                     .arg(corner.y())
+                     .arg(main.Picture2->width())
+                     .arg(main.Picture2->height());
     }
     return lines.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n");
 }

@@ -1,5 +1,6 @@
 #include "state/DirecData.h"
 
+#include "platform/RegularFile.h"
 #include "platform/SafeFile.h"
 
 #include <QFile>
@@ -112,21 +113,28 @@ DirecDataRecord DirecDataRecord::fromBytes(const QByteArray& bytes)
 
 DirecDataRecord readDirecData(const QString& nativePath)
 {
-    QFile file(nativePath);
-    if (!file.exists()) {
+    switch (pathKind(nativePath)) {
+    case PathKind::Missing:
         // Opening a random-access file creates it; the record reads as empty.
-        if (file.open(QIODevice::WriteOnly))
-            file.close();
+        writeFileSafely(nativePath, QByteArray());
         return {};
+    case PathKind::Regular:
+        break;
+    case PathKind::Folder:
+    case PathKind::Other:
+        return {}; // never opened: it reads as an empty record and stays
     }
-    if (!file.open(QIODevice::ReadOnly))
+    QFile file;
+    if (!openRegularFile(file, nativePath))
         return {};
     return DirecDataRecord::fromBytes(file.read(DirecDataRecord::kSize));
 }
 
+// The record is the one file that holds every setting: its rename is on the
+// disk before the write counts as done.
 bool writeDirecData(const QString& nativePath, const DirecDataRecord& record)
 {
-    return writeFileSafely(nativePath, record.toBytes());
+    return writeFileSafely(nativePath, record.toBytes(), Durability::SyncedWithFolder);
 }
 
 } // namespace lumen

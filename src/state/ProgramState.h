@@ -28,6 +28,11 @@ struct ProgramState {
 
     StringGrid ListArray{kListColumns, 1}; // rows from 1
     StringGrid EditArray{kListColumns, 1}; // the editor's working copy
+    qint16 EditRowCount = 0;               // rows of EditArray in use
+    qint16 EditMaxLineLength = 0;          // longest line of the list last read by the editor
+    qint16 EditRow = 0;                    // selected row, from 0: EditArray row EditRow + 1
+    bool EditorOn = false;                 // Text1 of the file selection holds editor text
+    bool ReplaceOpen = false;              // FormReplaceEdit is open
     QStringList CommandWord;               // 1 To 34; index 0 unused
     StringGrid ExtTypeArray{kExtSlots, 2}; // (0 To 16, 0 To 1): name, marker
 

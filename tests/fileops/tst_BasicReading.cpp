@@ -2,6 +2,9 @@
 #include "support/BasicsFixture.h"
 
 #include "support/Fetch.h"
+#include "support/SpecialFiles.h"
+
+#include <QFile>
 
 #include <QTest>
 
@@ -27,6 +30,8 @@ class TestBasicReading : public QObject {
 private Q_SLOTS:
     void read_data();
     void read();
+    void unreadableFiles_data();
+    void unreadableFiles();
     void progressWindow();
     void clean_data();
     void clean();
@@ -71,6 +76,50 @@ void TestBasicReading::read()
     QCOMPARE(f.ui.boxes, box.isEmpty() ? QStringList() : QStringList{box});
     QCOMPARE(f.ui.beeps, box.isEmpty() ? 0 : 1);
     QCOMPARE(f.host.stopEvents, FETCH(QStringList, stopEvents));
+}
+
+void TestBasicReading::unreadableFiles_data()
+{
+    QTest::addColumn<int>("kind"); // a Special, or -1: a file of `size` bytes
+    QTest::addColumn<qint64>("size");
+    QTest::addColumn<qint64>("limit");
+    QTest::addColumn<QString>("box");
+    const QString access = QStringLiteral("パス/ファイル アクセス エラーです。");
+    const QString memory = QStringLiteral("メモリが不足しています。");
+    QTest::newRow("named pipe") << int(Special::Pipe) << 0LL << kListFileLimit << access;
+    QTest::newRow("link to a device")
+        << int(Special::LinkToDevice) << 0LL << kListFileLimit << access;
+    QTest::newRow("folder") << int(Special::Folder) << 0LL << kListFileLimit << access;
+    QTest::newRow("settings file over 1 MB")
+        << -1 << kSettingsFileLimit + 1 << kSettingsFileLimit << memory;
+    QTest::newRow("list over its largest size")
+        << -1 << kListFileLimit + 1 << kListFileLimit << memory;
+}
+
+// What isn't a regular file, or is larger than the reader takes, reads as
+// a file that can't be read: "", a beep and the error's box; never opened,
+// never read into memory.
+void TestBasicReading::unreadableFiles()
+{
+    const Watchdog watchdog(20);
+    BasicsFixture f;
+    const QString native = f.home.native(QStringLiteral("list.lst"));
+    if (FETCH(int, kind) < 0) {
+        f.home.writeFile("list.lst", "a");
+        QVERIFY(QFile::resize(native, FETCH(qint64, size))); // sparse
+    } else if (!makeSpecial(Special(FETCH(int, kind)), native)) {
+        QSKIP("the system doesn't let this test make a device");
+    }
+    const QString box = FETCH(QString, box);
+    QCOMPARE(f.basics.ReadTextOfFile(kList, FETCH(qint64, limit)), QString());
+    QCOMPARE(f.ui.boxes, QStringList{box});
+    if (FETCH(qint64, limit) == kListFileLimit) {
+        // A folder is no file to clean at all: no second box.
+        const bool folder = FETCH(int, kind) == int(Special::Folder);
+        QCOMPARE(f.basics.CleanListFile(kList), 0);
+        QCOMPARE(f.ui.boxes, folder ? QStringList{box} : (QStringList{box, box}));
+    }
+    QVERIFY(f.ui.beeps >= 1);
 }
 
 void TestBasicReading::progressWindow()

@@ -7,7 +7,10 @@
 #include "list/ListLoader.h"
 #include "support/BasicsFixture.h"
 #include "support/Fetch.h"
+#include "support/SpecialFiles.h"
 
+#include <QElapsedTimer>
+#include <QFile>
 #include <QTest>
 
 using namespace lumen;
@@ -38,6 +41,8 @@ class TestListFiles : public QObject {
 private Q_SLOTS:
     void parse_data();
     void parse();
+    void longLinesParseInLinearTime_data();
+    void longLinesParseInLinearTime();
     void lineKinds_data();
     void lineKinds();
     void language_data();
@@ -54,6 +59,9 @@ private Q_SLOTS:
     void load();
     void loaderGuardsTheCount();
     void loaderStopsOnRequest();
+    void loaderStopsWithinALongLine();
+    void readOnlyWorkingFolderReadsTheChosenList();
+    void listViewCutsLongLines();
 };
 
 void TestListFiles::parse_data()
@@ -80,10 +88,15 @@ void TestListFiles::parse_data()
     row("missing end word drops the rest", "a.jpg @DELAY=4 @WITH=b.wav ENDWITH", true,
         "a.jpg||9999||", " There is no word ENDDELAY");
     row("no @: the whole line", "a.jpg = b", true, "a.jpg = b||9999||", "");
-    row("blank between @ and word: passed over", "a.jpg @ WITH=b.wav ENDWITH", true,
+    row("blank between @ and word: no start word", "a.jpg @ WITH=b.wav ENDWITH", true,
         "a.jpg||9999||", "");
-    row("unknown word passed over", "a.jpg @SIZE=3 ENDSIZE @DELAY=2 ENDDELAY", true, "a.jpg||2||",
-        "");
+    row("unknown word ends the items", "a.jpg @SIZE=3 ENDSIZE @DELAY=2 ENDDELAY", true,
+        "a.jpg||9999||", "");
+    row("unknown word without an end", "a.jpg @X=1 @WITH=b.wav ENDWITH", true, "a.jpg||9999||", "");
+    row("no word before the =", "a.jpg @=x @DELAY=2 ENDDELAY", true, "a.jpg||9999||", "");
+    row("items before an unknown word stay", "a.jpg @DELAY=2 ENDDELAY @SIZE=3 @WITH=b ENDWITH",
+        true, "a.jpg||2||", "");
+    row("start word in other case", "a.jpg @With=b.wav endwith", true, "a.jpg|b.wav|9999||", "");
     row("comment without the mark", "a.jpg @COMMENT=hello ENDCOMMENT", true,
         "a.jpg||9999|<<<<<hello|", "");
     row("@ inside a comment value",
@@ -107,6 +120,37 @@ void TestListFiles::parse()
     QCOMPARE((QStringList{r.main, r.with, r.delay, r.comment, r.option}),
              cells(FETCH(QString, row)));
     QCOMPARE(parsed.missingEndWord, FETCH(QString, message));
+}
+
+void TestListFiles::longLinesParseInLinearTime_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("row");
+    const int million = 1000000;
+    QTest::newRow("a million @, then =") << QString(million, '@') + '=' << "||9999||";
+    QTest::newRow("@= half a million times") << QString("@=").repeated(million / 2) << "||9999||";
+    QTest::newRow("= then a million @") << '=' + QString(million, '@') << "=||9999||";
+    // Every item's lower-case end word is looked for, and "end" stands at
+    // the end of the line, so that the look can't be skipped.
+    QTest::newRow("66,000 items and a lower-case end")
+        << "a.jpg" + QString(" @WITH=x ENDWITH").repeated(66000) + " end"
+        << "a.jpg|x|9999||";
+    QTest::newRow("a million-letter unknown word")
+        << "a.jpg @" + QString(million, u'語') + "=1 ENDDELAY"
+        << "a.jpg||9999||";
+}
+
+// A line of a million characters of any kind parses in well under a second.
+void TestListFiles::longLinesParseInLinearTime()
+{
+    const ListWords words(englishCommandWords());
+    QElapsedTimer timer;
+    timer.start();
+    const ParsedLine parsed = parseListLine(FETCH(QString, line), words);
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed()) + " ms"));
+    const ListRow& r = parsed.row;
+    QCOMPARE((QStringList{r.main, r.with, r.delay, r.comment, r.option}),
+             cells(FETCH(QString, row)));
 }
 
 void TestListFiles::lineKinds_data()
@@ -335,6 +379,65 @@ void TestListFiles::loaderStopsOnRequest()
     f.host.stopTexts.clear();
     fillListArray(f.basics, text.left(text.indexOf(QStringLiteral("C:\\p121.jpg"))), count);
     QCOMPARE(f.host.stopTexts, (QStringList{"50", "100", "50", "100", "150"}));
+}
+
+// A list of one line of 66,000 items: events run while it is parsed, and a
+// stop pressed then ends the load there.
+void TestListFiles::loaderStopsWithinALongLine()
+{
+    BasicsFixture f;
+    f.home.writeFile("s.lst",
+                     "C:\\a.jpg" + QByteArray(" @WITH=x ENDWITH").repeated(66000) + "\r\n");
+    QString text;
+    const int count = prepareWorkingCopy(f.basics, QStringLiteral("C:\\s.lst"), &text);
+    f.clock.doEventsCount = 0;
+    f.clock.onDoEvents = [&] { f.state.StopRequested = true; };
+    const ListFill fill = fillListArray(f.basics, text, count);
+    QVERIFY(fill.stopped);
+    QCOMPARE(f.clock.doEventsCount, 1);
+    QCOMPARE(f.state.ListArray.at(kColMain, 1), QString());
+}
+
+// The copy to TempList.Lst fails in a read-only settings folder: the list
+// chosen is read, cleaned in memory and left as it is, and the old copy
+// never shows.
+void TestListFiles::readOnlyWorkingFolderReadsTheChosenList()
+{
+    BasicsFixture f;
+    PutCommandToArray(f.basics);
+    const QByteArray stale = "C:\\old.jpg\r\n";
+    const QByteArray chosen = "C:\\new1.jpg @DELAY=3 ENDDELAY\r\n\r\n  C:\\new2.jpg  \r\n";
+    f.home.writeFile(QString(kSettings) + "TempList.Lst", stale);
+    f.home.writeFile("new.lst", chosen);
+    const QString folder = f.home.native(kSettings);
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner);
+    int count = 0;
+    ListFill fill;
+    {
+        const PermissionBitsHold hold;
+        QString text;
+        count = prepareWorkingCopy(f.basics, QStringLiteral("C:\\new.lst"), &text);
+        fill = fillListArray(f.basics, text, count);
+    }
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QCOMPARE(count, 2);
+    QCOMPARE(fill.fileCount, 2);
+    QCOMPARE(row(f.state, 1), cells("C:\\new1.jpg||3||"));
+    QCOMPARE(row(f.state, 2), cells("C:\\new2.jpg||9999||"));
+    QCOMPARE(f.home.readFile(QString(kSettings) + "TempList.Lst"), stale);
+    QCOMPARE(f.home.readFile("new.lst"), chosen);
+    QCOMPARE(f.ui.boxes, QStringList());
+}
+
+void TestListFiles::listViewCutsLongLines()
+{
+    const QString longLine = "C:\\a.jpg @COMMENT=<<<<<" + QString(2000000, 'x') + " ENDCOMMENT";
+    const QString view = listViewText("C:\\b.jpg\r\n" + longLine + "\r\nC:\\c.jpg\r\n\r");
+    const QStringList lines = view.split('\n');
+    QCOMPARE(lines.size(), 3);
+    QCOMPARE(lines[0], QStringLiteral("C:\\b.jpg"));
+    QCOMPARE(lines[1], longLine.left(kLongestViewLine) + u'…');
+    QCOMPARE(lines[2], QStringLiteral("C:\\c.jpg"));
 }
 
 QTEST_GUILESS_MAIN(TestListFiles)

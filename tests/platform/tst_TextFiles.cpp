@@ -53,8 +53,13 @@ private Q_SLOTS:
             << hex("E3 83 95 E3 82 A1 E3 82 A4 E3 83 AB") << u"ファイル"_s;
         QTest::newRow("UTF-8 outside CP932") << hex("ED 95 9C F0 9F 98 80") << u"한😀"_s;
         QTest::newRow("BOM before ASCII") << kBom + "a\r\n" << u"a\r\n"_s;
+        QTest::newRow("BOM before a BOM") << kBom + kBom + "a" << u"\uFEFFa"_s;
         QTest::newRow("lone lead byte at the end") << hex("41 81") << u"A"_s + bad;
         QTest::newRow("lead byte with bad trail") << hex("81 20 41") << bad + u" A"_s;
+        // Row 85 of the double-byte table is empty: the pair is one bad
+        // character, and its trail byte no "@".
+        QTest::newRow("unmapped pair") << hex("85 40 41") << bad + u"A"_s;
+        QTest::newRow("unmapped pair before a character") << hex("85 9F 83 74") << bad + u"フ"_s;
         QTest::newRow("bad byte between characters")
             << hex("83 74 FF 83 40 A0 83 43") << u"フ"_s + bad + u"ァ"_s + bad + u"イ"_s;
     }
@@ -113,6 +118,7 @@ private Q_SLOTS:
         QTest::newRow("yen sign in UTF-8") << u"¥1"_s << kBom + hex("C2 A5 31");
         // In CP932 these would be C3 BD, which reads as UTF-8 "ý".
         QTest::newRow("kana that look like UTF-8") << u"ﾃｽ"_s << kBom + hex("EF BE 83 EF BD BD");
+        QTest::newRow("text that begins with U+FEFF") << u"\uFEFFa"_s << kBom + kBom + "a";
     }
     void encodeForFile()
     {

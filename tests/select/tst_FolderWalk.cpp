@@ -11,6 +11,7 @@
 
 using namespace lumen;
 using namespace lumen::test;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -116,13 +117,79 @@ private Q_SLOTS:
         // top\outside (a link to C:\other).
         QFETCH(int, stopAtCall);
         int calls = 0;
-        const FolderWalkResult result =
-            walkFolderTree(home_->fs, FETCH(QString, top), options, [&calls, stopAtCall] {
-                return stopAtCall > 0 && ++calls >= stopAtCall;
-            });
+        const FolderWalkResult result = walkFolderTree(
+            home_->fs, FETCH(QString, top), options,
+            {.stop = [&calls, stopAtCall] { return stopAtCall > 0 && ++calls >= stopAtCall; }});
         QCOMPARE(result.files, FETCH(QStringList, files));
         QCOMPARE(result.folderCount, FETCH(int, folders));
         QCOMPARE(result.stopped, stopAtCall > 0);
+    }
+
+    // Names that a list line can't hold as one main file are left out of a
+    // walk; the rest of the same folder is listed.
+    void oddNames_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("listed");
+        QTest::newRow("companion words in the name") << "x.png @WITH=y.wav ENDWITH" << false;
+        QTest::newRow("'@' and '=' apart") << "a=b@c.jpg" << false;
+        QTest::newRow("line feed") << "two\nlines.jpg" << false;
+        QTest::newRow("carriage return") << "cr\r.jpg" << false;
+        QTest::newRow("'@' alone") << "photo@2x.png" << true;
+        QTest::newRow("'=' alone") << "a=b.jpg" << true;
+        QTest::newRow("blanks, commas, brackets") << "my (1), [b].jpg" << true;
+        QTest::newRow("Japanese") << u"写真 一.jpg"_s << true;
+    }
+    void oddNames()
+    {
+        QFETCH(QString, name);
+        home_->writeFile("odd/" + name, "x");
+        home_->writeFile("odd/plain.jpg", "x");
+        QStringList expected{"C:\\odd\\plain.jpg"};
+        if (FETCH(bool, listed))
+            expected.prepend("C:\\odd\\" + name);
+        expected.sort(Qt::CaseInsensitive);
+        QCOMPARE(walkFolderTree(home_->fs, "C:\\odd").files, expected);
+    }
+
+    // The selection window keeps the levels in Head.txt and Head2.txt:
+    // while the walk runs they hold the folders of two levels, and both are
+    // gone when it ends, stopped or not. A folder where they can't be
+    // written loses nothing.
+    void levelFiles_data()
+    {
+        QTest::addColumn<QString>("levelFolder");
+        QTest::addColumn<int>("stopAfterFolders"); // 0: never stopped
+        QTest::addColumn<int>("folders");
+        QTest::newRow("whole walk") << "C:\\run" << 0 << 5;
+        QTest::newRow("stopped on level 2") << "C:\\run" << 4 << 4;
+        QTest::newRow("level files can't be written") << "C:\\run\\missing" << 0 << 5;
+    }
+    void levelFiles()
+    {
+        home_->makeFolder("run");
+        FolderWalkOptions options;
+        options.levelFolder = FETCH(QString, levelFolder);
+        const int stopAfter = FETCH(int, stopAfterFolders);
+        QStringList headsSeen; // Head.txt's lines when each folder was listed
+        int listed = 0;
+        FolderWalkHooks hooks;
+        hooks.stop = [&] { return stopAfter > 0 && listed >= stopAfter; };
+        hooks.folderListed = [&](const QString&, const QStringList&) {
+            ++listed;
+            headsSeen << QString::fromUtf8(home_->readFile("run/Head.txt")).trimmed();
+        };
+        const FolderWalkResult result = walkFolderTree(home_->fs, "C:\\top", options, hooks);
+        QCOMPARE(result.folderCount, FETCH(int, folders));
+        if (stopAfter == 0)
+            QCOMPARE(result.files, kWholeTree);
+        QVERIFY(!home_->exists("run/Head.txt"));
+        QVERIFY(!home_->exists("run/Head2.txt"));
+        if (options.levelFolder == "C:\\run") {
+            // Level 1 (a, B) is read from Head.txt while its folders are listed.
+            QCOMPARE(headsSeen.value(1), "C:\\top\\a\r\nC:\\top\\B");
+            QCOMPARE(headsSeen.value(2), "C:\\top\\a\r\nC:\\top\\B");
+        }
     }
 
     void listText()

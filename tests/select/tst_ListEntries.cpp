@@ -55,6 +55,10 @@ private Q_SLOTS:
         row("dropped folder with a dot", "C:\\pics.v2", true, {"C:\\pics.v2"});
         row("dropped folder named like a list", "C:\\folder.lst", true, {"C:\\folder.lst"});
         row("dropped name without ':'", "a b.jpg", true, {});
+        // Names that a list line would split are left out.
+        row("dropped name with companion words", "C:\\x.png @WITH=y.wav ENDWITH", true, {});
+        row("named file with a line break", "C:\\a\nb.jpg", false, {});
+        row("'@' alone stays", "C:\\photo@2x.png", true, {"C:\\photo@2x.png"});
     }
     void lines()
     {

@@ -15,6 +15,7 @@
 #include "show/FormLumentaExit.h"
 #include "show/FormMain.h"
 #include "show/FormOption.h"
+#include "start/AppFixture.h"
 #include "start/Lumenta.h"
 #include "support/FakeMedia.h"
 #include "support/Fakes.h"
@@ -42,62 +43,6 @@
 using namespace lumen;
 using namespace lumen::test;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// Lumenta with its real windows over the fakes, in a temporary home past its
-// first start unless told otherwise.
-struct App {
-    TestHome home;
-    FakeClock clock;
-    FakeDialogs ui;
-    FakeLauncher launcher;
-    FakeMedia media;
-    Services services{clock, ui, launcher, home.fs, media};
-    std::unique_ptr<Lumenta> app;
-    int quits = 0;
-
-    // `names` are relative to the temporary home, as the shell would give them.
-    explicit App(const QStringList& names = QStringList(), bool pastFirstStart = true)
-    {
-        QStringList arguments;
-        for (const QString& name : names)
-            arguments << home.native(name);
-        if (pastFirstStart) {
-            DirecDataRecord record;
-            record.CommentFontName = u"MS UI Gothic"_s;
-            home.makeFolder("Lumentas/ForProgramRun_KDR");
-            writeDirecData(home.native("Lumentas/ForProgramRun_KDR/DirecData.ran"), record);
-        }
-        app = std::make_unique<Lumenta>(services, arguments, home.native("bin/lumenta"));
-        app->quit = [this] { ++quits; };
-    }
-    QByteArray settings(const char* name) const
-    {
-        return home.readFile(u"Lumentas/ForProgramRun_KDR/"_s + name);
-    }
-    bool shown(const QString& name) const
-    {
-        FormBase* form = app->forms().existing(name);
-        return form && form->isVisible();
-    }
-    template <class T> T* form(const char* name)
-    {
-        return static_cast<T*>(app->forms().form(QString::fromLatin1(name)));
-    }
-    FormMain& main() { return app->formMain(); }
-    // Starts the program and opens the list at once (no half-minute view).
-    void openList(const QStringList& lines)
-    {
-        home.writeFile(u"show.lst"_s, lines.join(u"\r\n"_s).toUtf8());
-        app->Main();
-        main().resize(800, 580);
-        main().CheckQuiCkWork->setChecked(true);
-        main().OpenFileList(u"C:\\show.lst"_s);
-    }
-};
-
-} // namespace
 
 class TestFormMainStart : public QObject {
     Q_OBJECT

@@ -27,7 +27,8 @@ struct StartFixture : BasicsFixture {
                                {[this] { calls << u"cyber view on"_s; },
                                 [this] { calls << u"show main and stop"_s; },
                                 [this](const QString& list) { calls << u"open "_s + list; },
-                                [this] { calls << u"end"_s; }}};
+                                [this] { calls << u"end"_s; },
+                                {}}};
 
     StartFixture()
     {

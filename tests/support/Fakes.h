@@ -19,12 +19,13 @@ namespace lumen::test {
 class FakeClock : public Clock {
 public:
     qint64 now = 0;
+    qint64 tickStep = 0;                // each look at the clock moves it on by this much
     QList<qint64> waits;                // length of each wait, in order
     std::function<void(qint64)> onWait; // called with the wait's length
     std::function<void()> onDoEvents;   // called at every DoEvents
     int doEventsCount = 0;
 
-    qint64 tickCount() override { return now; }
+    qint64 tickCount() override { return now += tickStep; }
     void waitUntil(qint64 tick) override;
     void doEvents() override;
     qint64 totalWaited() const;
