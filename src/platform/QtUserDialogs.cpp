@@ -1,34 +1,98 @@
 #include "platform/QtUserDialogs.h"
 
 #include "platform/Colors.h"
+#include "platform/DialogFilter.h"
 #include "platform/FormMessage.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QDateTime>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QSortFilterProxyModel>
 
 namespace lumen {
 
 QString qtFilterFromClassic(const QString& classicFilter)
 {
-    const QStringList parts = classicFilter.split(QLatin1Char('|'));
     QStringList filters;
-    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        QStringList patterns = parts[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    for (const DialogFilter& filter : dialogFilters(classicFilter)) {
+        QStringList patterns = filter.patterns;
         for (QString& pattern : patterns) {
-            pattern = pattern.trimmed();
-            if (pattern == QLatin1String("*.*"))
+            if (pattern == QLatin1String("*.*") || filter.programs)
                 pattern = QStringLiteral("*");
         }
-        filters << parts[i] + QStringLiteral(" (") + patterns.join(QLatin1Char(' ')) +
+        patterns.removeDuplicates();
+        filters << filter.caption + QStringLiteral(" (") + patterns.join(QLatin1Char(' ')) +
                        QLatin1Char(')');
     }
     return filters.join(QStringLiteral(";;"));
 }
+
+namespace {
+
+// What the file dialog lists: folders, and the files that the chosen filter
+// of the classic form picks (DialogFilter), programs by their exec bit.
+class DialogFilterModel : public QSortFilterProxyModel {
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    void choose(const DialogFilter& filter)
+    {
+        filter_ = filter;
+        invalidateFilter();
+    }
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex& parent) const override
+    {
+        const auto* files = qobject_cast<const QFileSystemModel*>(sourceModel());
+        if (!files)
+            return true;
+        const QModelIndex index = files->index(row, 0, parent);
+        return files->isDir(index) || dialogFilterMatches(filter_, files->filePath(index));
+    }
+
+private:
+    DialogFilter filter_{QString(), {QStringLiteral("*")}, false};
+};
+
+std::optional<QString> runFileDialog(QWidget* owner, QFileDialog::AcceptMode mode,
+                                     const QString& title, const QString& startPath,
+                                     const QString& classicFilter)
+{
+    QFileDialog dialog(owner, title, startPath);
+    dialog.setObjectName(QStringLiteral("FileDialog"));
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
+                                                       : QFileDialog::AnyFile);
+    // Qt's own dialog, whose listing goes through the filter model; the
+    // captions stand as they are given.
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    const QList<DialogFilter> filters = dialogFilters(classicFilter);
+    const QStringList names = qtFilterFromClassic(classicFilter).split(QStringLiteral(";;"));
+    auto* model = new DialogFilterModel(&dialog);
+    dialog.setProxyModel(model);
+    if (!filters.isEmpty()) {
+        dialog.setNameFilters(names);
+        model->choose(filters.first());
+    }
+    QObject::connect(&dialog, &QFileDialog::filterSelected, model, [&](const QString& chosen) {
+        const qsizetype index = names.indexOf(chosen);
+        if (index >= 0 && index < filters.size())
+            model->choose(filters[index]);
+    });
+    dialog.setWindowModality(Qt::ApplicationModal);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return dialog.selectedFiles().first();
+}
+
+} // namespace
 
 QtUserDialogs::QtUserDialogs() = default;
 
@@ -40,6 +104,13 @@ QtUserDialogs::~QtUserDialogs()
 void QtUserDialogs::msgBox(const QString& text)
 {
     QMessageBox box(QMessageBox::NoIcon, kDefaultTitle, text, QMessageBox::Ok, owner_);
+    box.setWindowModality(Qt::ApplicationModal);
+    box.exec();
+}
+
+void QtUserDialogs::msgBoxExclamation(const QString& text)
+{
+    QMessageBox box(QMessageBox::Warning, kDefaultTitle, text, QMessageBox::Ok, owner_);
     box.setWindowModality(Qt::ApplicationModal);
     box.exec();
 }
@@ -94,21 +165,13 @@ void QtUserDialogs::hideMessage()
 std::optional<QString> QtUserDialogs::openFileName(const QString& title, const QString& startPath,
                                                    const QString& filter)
 {
-    const QString name =
-        QFileDialog::getOpenFileName(owner_, title, startPath, qtFilterFromClassic(filter));
-    if (name.isEmpty())
-        return std::nullopt;
-    return name;
+    return runFileDialog(owner_, QFileDialog::AcceptOpen, title, startPath, filter);
 }
 
 std::optional<QString> QtUserDialogs::saveFileName(const QString& title, const QString& startPath,
                                                    const QString& filter)
 {
-    const QString name =
-        QFileDialog::getSaveFileName(owner_, title, startPath, qtFilterFromClassic(filter));
-    if (name.isEmpty())
-        return std::nullopt;
-    return name;
+    return runFileDialog(owner_, QFileDialog::AcceptSave, title, startPath, filter);
 }
 
 QString QtUserDialogs::browseForFolder(const QString& title, const QString& startPath)
