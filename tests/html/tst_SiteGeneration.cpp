@@ -18,6 +18,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace lumen;
 using namespace lumen::test;
 
@@ -141,6 +142,8 @@ private Q_SLOTS:
     void site_data();
     void site();
     void emptyListTouchesNothing();
+    void pagesInUtf8WithAMark_data();
+    void pagesInUtf8WithAMark();
     void badInput_data();
     void badInput();
     void deletedTemplateComesBackToTheByte();
@@ -254,6 +257,27 @@ void TestSiteGeneration::site()
     QVERIFY(s.captions.contains("HTMLファイル作成中  4 /  6"));
     QCOMPARE(s.captions.last(), "HTMLファイル作成完了 ");
     QCOMPARE(s.colours, (QList<qint32>{65280, 0x80C0FF}));
+}
+
+void TestSiteGeneration::pagesInUtf8WithAMark_data()
+{
+    QTest::addColumn<QString>("comment");
+    QTest::newRow("Japanese") << u"赤い花の写真"_s;
+    QTest::newRow("half-width kana") << u"ｶﾒﾗ"_s;
+    QTest::newRow("ASCII only") << u"A red flower"_s;
+}
+
+// Every page is UTF-8 behind a byte-order mark, whatever its characters, so
+// that a browser never guesses.
+void TestSiteGeneration::pagesInUtf8WithAMark()
+{
+    const QString comment = FETCH(QString, comment);
+    Site s;
+    writeShowFiles(s.f.home);
+    s.run({"C:\\show\\Red.PNG @COMMENT=<<<<<" + comment + " ENDCOMMENT"}, SiteSettings::defaults());
+    const QByteArray bytes = s.f.home.readFile("data/html/page1.html");
+    QVERIFY(bytes.startsWith("\xEF\xBB\xBF"));
+    QVERIFY(bytes.contains(comment.toUtf8()));
 }
 
 void TestSiteGeneration::emptyListTouchesNothing()

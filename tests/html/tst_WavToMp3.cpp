@@ -87,9 +87,10 @@ void TestWavToMp3::converts()
     BasicsFixture f;
     const int rate = FETCH(int, rate);
     writeWav(f.home.native("in.wav"), 3.0, rate, FETCH(int, channels));
-    ConvertWavToMp3(f.basics, "C:\\in.wav", "C:\\site\\media\\in.mp3", 0);
+    ConvertWavToMp3(f.basics, "C:\\in.wav", "C:\\site\\media\\in.mp3", qint16(FETCH(int, percent)));
     // A missing folder isn't made: the output can't be opened.
     QCOMPARE(f.ui.boxes, QStringList{kMp3SetupMessage});
+    QCOMPARE(f.ui.exclamations, f.ui.boxes); // with the exclamation mark
     QVERIFY(!f.home.exists("site"));
     f.ui.boxes.clear();
     f.home.makeFolder("out");
@@ -126,6 +127,7 @@ void TestWavToMp3::refused()
     f.home.writeFile("text.wav", "no sound here");
     ConvertWavToMp3(f.basics, FETCH(QString, input), "C:\\out.mp3", qint16(FETCH(int, percent)));
     QCOMPARE(f.ui.boxes, QStringList{FETCH(QString, message)});
+    QCOMPARE(f.ui.exclamations, f.ui.boxes); // each with the exclamation mark
     QVERIFY(!f.home.exists("out.mp3"));
     QCOMPARE(QDir(f.home.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
