@@ -20,6 +20,7 @@
 #include "support/FakeMedia.h"
 #include "support/Fakes.h"
 #include "support/Fetch.h"
+#include "support/SendToListText.h"
 #include "support/Shots.h"
 #include "support/TestHome.h"
 
@@ -68,6 +69,7 @@ private Q_SLOTS:
     void closingTheNavigatorEndsWholeScreen();
     void commentWindowOpensOverTheDisplayArea();
     void labelCommentCarriesTheCommentAndIsDragged();
+    void frame1HintOnEveryOtherMove();
 };
 
 void TestFormMainStart::firstStartShowsOnlyTheAccessWindow()
@@ -103,7 +105,7 @@ void TestFormMainStart::settingsFiles()
     QCOMPARE(a.settings("AccessLockDir.dat"), QByteArray("C:\\Lumentas\r\n1\r\n"));
     QCOMPARE(a.app->state().DirectryLock, 0); // the box stays as designed on the default path
     QCOMPARE(a.settings("SendToList.txt"),
-             text::encodeForFile(defaultSendToListLines().join("\r\n") + "\r\n"));
+             text::encodeForFile(expectedSendToListLines().join("\r\n") + "\r\n"));
 
     App b;
     b.home.writeFile("Lumentas/ForProgramRun_KDR/PictureSizeAllowVal.dat", "35\r\n");
@@ -603,6 +605,46 @@ void TestFormMainStart::labelCommentCarriesTheCommentAndIsDragged()
                       Qt::NoButton, Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(label, &hover);
     QCOMPARE(QPointF(twLeft(label), twTop(label)), QPointF(1800, 1950));
+}
+
+// The interval's hint comes with the mouse moves over Frame1, on every
+// second one; Auto Page started while it shows takes it away.
+void TestFormMainStart::frame1HintOnEveryOtherMove()
+{
+    App a;
+    a.openList({a.home.picture(u"p1.png"_s), a.home.picture(u"p2.png"_s)});
+    auto* option = a.form<FormOption>("FormOption");
+    option->showForm();
+    const auto move = [&](int x) {
+        QMouseEvent event(QEvent::MouseMove, QPointF(x, 8),
+                          option->Frame1->mapToGlobal(QPointF(x, 8)), Qt::NoButton, Qt::NoButton,
+                          Qt::NoModifier);
+        QApplication::sendEvent(option->Frame1, &event);
+    };
+    for (int x = 5; x < 9; ++x)
+        move(x);
+    QCOMPARE(a.ui.messages.size(), 2);
+    for (const auto& message : std::as_const(a.ui.messages))
+        QCOMPARE(message.text, u" 0.0～0.9秒はｷｰｲﾝ入力できます "_s);
+    QVERIFY(!a.ui.messageShown); // each for its second
+
+    // Start pressed while the next hint is on the screen.
+    QList<bool> shownDuringTheShow;
+    bool started = false;
+    a.clock.onWait = [&](qint64 ms) {
+        if (!started && ms == 1000 && a.ui.messageShown) {
+            started = true;
+            option->CommandStart->click();
+        } else if (started && a.app->state().AutoPageOn) {
+            shownDuringTheShow << a.ui.messageShown;
+            move(20); // moves during the show bring no hint
+        }
+    };
+    move(9);
+    QVERIFY(started);
+    QVERIFY(!shownDuringTheShow.isEmpty());
+    QVERIFY(!shownDuringTheShow.contains(true));
+    QCOMPARE(a.ui.messages.size(), 3);
 }
 
 QTEST_MAIN(TestFormMainStart)
