@@ -43,6 +43,7 @@ public:
     {
         std::fprintf(stderr, "box: %s\n", qPrintable(text));
     }
+    void msgBoxExclamation(const QString& text) override { msgBox(text); }
     int askYesNo(const QString&) override { return kAnswerYes; }
     std::optional<QString> inputBox(const QString&, const QString&, const QString&) override
     {

@@ -6,6 +6,7 @@
 #include "platform/Fonts.h"
 #include "platform/Launcher.h"
 #include "platform/QtUserDialogs.h"
+#include "platform/Translations.h"
 #include "show/FormMain.h"
 #include "start/Lumenta.h"
 #include "start/StateDump.h"
@@ -33,6 +34,8 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QStringLiteral("lumenta"));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     lumen::installFontSubstitutes();
+    if (!lumen::installJapaneseQtTexts())
+        qWarning("lumenta: qtbase_ja.qm not found; the standard dialogs speak English");
 
     lumen::RealClock clock;
     lumen::QtUserDialogs dialogs;

@@ -25,6 +25,7 @@ constexpr int kDesignHeight = 60;
 constexpr double kLabelStart = 100; // twips
 constexpr double kHugMargin = 200;  // twips
 constexpr double kDragThreshold = 10;
+constexpr int kAboveBottom = 30; // pixels between the window and the display area's bottom
 
 float twips(qreal pixels)
 {
@@ -64,6 +65,7 @@ void FormComment::Form_Load()
     Label1->adjustSize();
 
     ClickGuard = 0;
+    placed_ = false;
     twMove(Label1, kLabelStart, kLabelStart);
     bringToFront();
 
@@ -83,6 +85,19 @@ void FormComment::setCommentText(const QString& text)
 QString FormComment::commentText() const
 {
     return Label1->text();
+}
+
+void FormComment::showOver(const QRect& displayArea)
+{
+    load();
+    if (!placed_) {
+        placed_ = true;
+        const QSize outer = frameRect(this).size();
+        const QPoint at(displayArea.center().x() - outer.width() / 2,
+                        displayArea.bottom() - kAboveBottom - outer.height());
+        twMove(this, pixelsToTwips(at.x()), pixelsToTwips(at.y()));
+    }
+    showForm();
 }
 
 void FormComment::Form_Resize()

@@ -24,6 +24,11 @@ public:
     void setCommentText(const QString& text);
     QString commentText() const;
 
+    // Shown for a page. The first show after a load places the window over
+    // the lower middle of the display area (screen pixels); after that it
+    // stays where the user drags it until it is unloaded.
+    void showOver(const QRect& displayArea);
+
     QLabel* Label1;
 
     qint16 DragStartX = 0;
@@ -52,6 +57,7 @@ private:
 
     VeroProcedure_Basical& basics_;
     FormRegistry& forms_;
+    bool placed_ = false; // placed since the last load
 };
 
 } // namespace lumen

@@ -5,6 +5,7 @@
 #include "platform/ClickLabel.h"
 #include "platform/Controls.h"
 
+#include <QCloseEvent>
 #include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
@@ -73,6 +74,11 @@ FormRightLeftNorm::FormRightLeftNorm(VeroProcedure_Basical& basics, QWidget* par
     connect(CommandEnd, &QPushButton::clicked, this, &FormRightLeftNorm::CommandEnd_Click);
     connect(CommandIELeft, &QPushButton::clicked, this, &FormRightLeftNorm::CommandIELeft_Click);
     connect(CommandIERight, &QPushButton::clicked, this, &FormRightLeftNorm::CommandIERight_Click);
+    addShowKeys(this, [this](ShowKey key) {
+        if (links.showKey)
+            links.showKey(key);
+        copyPageBar();
+    });
 }
 
 void FormRightLeftNorm::setPage(int value)
@@ -157,6 +163,16 @@ bool FormRightLeftNorm::eventFilter(QObject* watched, QEvent* event)
     if (watched == LabelDo && event->type() == QEvent::Enter)
         LabelDo_MouseMove();
     return FormBase::eventFilter(watched, event);
+}
+
+void FormRightLeftNorm::closeEvent(QCloseEvent* event)
+{
+    if (links.wholeScreen && links.wholeScreen() && links.toNormalSize) {
+        event->ignore();
+        links.toNormalSize(); // unloads this window too
+        return;
+    }
+    FormBase::closeEvent(event);
 }
 
 void FormRightLeftNorm::showEvent(QShowEvent* event)

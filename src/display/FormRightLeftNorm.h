@@ -4,6 +4,7 @@
 // back and forward, repeats the page and opens the exit choice.
 #pragma once
 
+#include "display/ShowKeys.h"
 #include "platform/FormBase.h"
 
 #include <functional>
@@ -34,6 +35,8 @@ public:
         std::function<bool()> webPageShown;   // the web flag of the page
         std::function<void()> ieLeft;         // FormMain's CommandIELeft_Click
         std::function<void()> ieRight;        // FormMain's CommandIERight_Click
+        std::function<void(ShowKey)> showKey; // FormMain's keys of the show
+        std::function<bool()> wholeScreen;    // FormMain is in whole-screen mode
     } links;
 
     QPushButton* CommandLeft;
@@ -63,6 +66,9 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    // Closed by its frame in whole-screen mode, it takes the show back to the
+    // normal window, as CommandToNormalSize does.
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void copyPageBar();

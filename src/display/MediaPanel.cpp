@@ -9,8 +9,11 @@
 #include <QPainter>
 #include <QSlider>
 #include <QStyle>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
+
+#include <limits>
 
 namespace lumen {
 
@@ -18,6 +21,8 @@ namespace {
 
 // Narrower than this, the transport's buttons and bar don't fit.
 constexpr int kMinimumVideoPanelWidth = 160;
+// How often the bar and the play button look at the player while it plays.
+constexpr int kFollowMilliseconds = 250;
 
 // The file name in the transport: takes the room the bar leaves it and
 // shortens the name in the middle to fit.
@@ -96,6 +101,11 @@ MediaPanel::MediaPanel(const QString& name, std::unique_ptr<MediaEngine> engine,
         if (!position_->isSliderDown())
             position_->setValue(int(milliseconds));
     });
+    // Not every player tells its position as it goes (MIDI doesn't): the
+    // panel asks it too.
+    follow_ = new QTimer(this);
+    follow_->setInterval(kFollowMilliseconds);
+    connect(follow_, &QTimer::timeout, this, &MediaPanel::followPlayer);
 }
 
 MediaPanel::~MediaPanel()
@@ -128,7 +138,7 @@ void MediaPanel::buildTransport()
     row->addWidget(position_, 3);
     row->addWidget(name_, 2);
 
-    connect(play_, &QToolButton::clicked, this, &MediaPanel::Play);
+    connect(play_, &QToolButton::clicked, this, &MediaPanel::playOrPause);
     connect(stop_, &QToolButton::clicked, this, &MediaPanel::Stop);
     connect(position_, &QSlider::sliderMoved, this, [this](int milliseconds) {
         if (engine_)
@@ -146,6 +156,7 @@ void MediaPanel::Open(const QString& nativePath)
     if (fullScreen_ && engine_->isPlaying())
         engine_->setFullScreen(true);
     fitToVideo();
+    followPlayer();
 }
 
 void MediaPanel::Play()
@@ -155,6 +166,7 @@ void MediaPanel::Play()
     engine_->play();
     if (fullScreen_)
         engine_->setFullScreen(true);
+    followPlayer();
 }
 
 void MediaPanel::Stop()
@@ -162,6 +174,7 @@ void MediaPanel::Stop()
     if (!engine_)
         return;
     engine_->stop();
+    followPlayer();
     position_->setValue(0);
     if (fullScreen_)
         engine_->setFullScreen(false);
@@ -260,7 +273,43 @@ void MediaPanel::engineEnded()
 {
     if (fullScreen_)
         engine_->setFullScreen(false);
+    // At its end the medium stands rewound: the next play starts it again.
+    followPlayer();
+    position_->setValue(0);
     Q_EMIT ended();
+}
+
+void MediaPanel::playOrPause()
+{
+    if (!engine_)
+        return;
+    if (!engine_->isPlaying()) {
+        Play();
+        return;
+    }
+    engine_->pause();
+    followPlayer();
+}
+
+void MediaPanel::followPlayer()
+{
+    const bool playing = engine_ && engine_->isPlaying();
+    if (engine_) {
+        const qint64 duration = engine_->duration();
+        if (duration > 0)
+            position_->setMaximum(int(qMin<qint64>(duration, std::numeric_limits<int>::max())));
+        if (playing && !position_->isSliderDown())
+            position_->setValue(
+                int(qMin<qint64>(engine_->position(), std::numeric_limits<int>::max())));
+    }
+    play_->setIcon(style()->standardIcon(playing ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
+    play_->setToolTip(playing ? QStringLiteral("一時停止") : QStringLiteral("再生"));
+    if (!follow_)
+        return;
+    if (playing && !follow_->isActive())
+        follow_->start();
+    else if (!playing)
+        follow_->stop();
 }
 
 void MediaPanel::showFileName(const QString& nativePath)

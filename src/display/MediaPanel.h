@@ -1,8 +1,9 @@
 // MediaPanel: the media player control behind MediaPlayer1 (animation) and
 // MediaPlayer2 (MIDI and other sound). A screen above, the picture of a
 // video or, for sound, a quiet face with the file's name; below it a small
-// transport: play, stop, the position bar and the file name. It plays
-// through a MediaEngine of the media service and passes on its end.
+// transport: play (pause while it plays), stop, the position bar and the
+// file name. It plays through a MediaEngine of the media service and passes
+// on its end; the bar and the play button follow the player as it plays.
 //
 // DisplaySize: 0 (the default) keeps the size the owner gives the panel and
 // fits the picture into it; 3 sizes the panel to the video's own size with
@@ -18,6 +19,7 @@
 
 class QLabel;
 class QSlider;
+class QTimer;
 class QToolButton;
 
 namespace lumen {
@@ -79,6 +81,8 @@ private:
     void fitToVideo();
     void engineEnded();
     void showFileName(const QString& nativePath);
+    void playOrPause();
+    void followPlayer(); // the position bar and the play button's face
 
     std::unique_ptr<MediaEngine> engine_;
     QWidget* screen_ = nullptr; // the video surface, or the face for sound
@@ -88,6 +92,7 @@ private:
     QToolButton* stop_ = nullptr;
     QSlider* position_ = nullptr;
     QLabel* name_ = nullptr;
+    QTimer* follow_ = nullptr; // runs while the medium plays
     int displaySize_ = kDisplayDefault;
     bool fullScreen_ = false;
     bool autoStart_ = true;

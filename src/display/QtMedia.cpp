@@ -106,6 +106,11 @@ void QtMediaEngine::stop()
     player_->stop();
 }
 
+void QtMediaEngine::pause()
+{
+    player_->pause();
+}
+
 QWidget* QtMediaEngine::videoSurface()
 {
     return surface_.data();

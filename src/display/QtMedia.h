@@ -41,6 +41,7 @@ public:
     QWidget* videoSurface() override;
     void setFullScreen(bool on) override;
     bool isPlaying() const override;
+    void pause() override;
     qint64 position() const override;
     qint64 duration() const override;
     void setPosition(qint64 milliseconds) override;

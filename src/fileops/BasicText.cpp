@@ -125,11 +125,11 @@ QString StripTrailingBackslash(const QString& path)
 
 QString CollapseDoubleBackslash(const QString& path)
 {
-    QString text = basic::Trim(path);
-    const qsizetype doubled = text.indexOf(QLatin1String("\\\\"));
-    if (doubled >= 0)
-        text.remove(doubled, 1);
-    return text;
+    // Blanks are trimmed only from a path without a doubled backslash.
+    const qsizetype doubled = path.indexOf(QLatin1String("\\\\"));
+    if (doubled < 0)
+        return basic::Trim(path);
+    return QString(path).remove(doubled, 1);
 }
 
 QString SerchAndReplace(const QString& source, const QString& find, const QString& replacement)

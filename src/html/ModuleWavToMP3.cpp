@@ -96,17 +96,17 @@ void ConvertWavToMp3(VeroProcedure_Basical& basics, const QString& wavPath, cons
     if (!sound) {
         // A file that can't be read is told apart from one in no known format.
         const bool unreadable = input.isEmpty() || sf_error(nullptr) == SF_ERR_SYSTEM;
-        ui.msgBox(unreadable ? kMp3InputMessage : kMp3SetupMessage);
+        ui.msgBoxExclamation(unreadable ? kMp3InputMessage : kMp3SetupMessage);
         return;
     }
     const QString output = fs.toNative(mp3Path);
     if (!configure(encoder.get(), info, Mp3BitRate(percent)) || output.isEmpty()) {
-        ui.msgBox(kMp3SetupMessage);
+        ui.msgBoxExclamation(kMp3SetupMessage);
         return;
     }
     StagedFile out(output, Durability::Synced);
     if (!out.isOpen()) {
-        ui.msgBox(kMp3SetupMessage);
+        ui.msgBoxExclamation(kMp3SetupMessage);
         return;
     }
 
@@ -125,7 +125,7 @@ void ConvertWavToMp3(VeroProcedure_Basical& basics, const QString& wavPath, cons
                                                 count, bytes.data(), int(bytes.size()));
         if (encoded < 0) {
             out.fail();
-            ui.msgBox(kMp3FrameMessage + QString::number(encoded));
+            ui.msgBoxExclamation(kMp3FrameMessage + QString::number(encoded));
             return;
         }
         if (!writeBytes(out, bytes, encoded))

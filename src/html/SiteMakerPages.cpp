@@ -5,6 +5,7 @@
 #include "platform/Basic.h"
 #include "platform/FileSystem.h"
 #include "platform/SafeFile.h"
+#include "platform/TextCodec.h"
 #include "state/ProgramState.h"
 
 #include <QUrl>
@@ -126,11 +127,13 @@ void SiteMaker::MakeOnePage(qint16 pageNumber)
         }
         page = SerchAndReplaceInPage(page, table.at(kColWord, row), value);
     }
-    // Written as WriteTextToFile writes, the text and a line end, replacing
-    // the file; a site of thousands of pages doesn't wait on the disk for each.
+    // The text and a line end, replacing the file, in UTF-8 with a byte-order
+    // mark that every browser honours; a site of thousands of pages doesn't
+    // wait on the disk for each.
     const QString path =
         HtmlRootDir + QLatin1Char('\\') + HtmlPageDir + QLatin1Char('\\') + pageName(pageNumber);
-    writeTextFileQuickly(basics_.services().fs.toNative(path), page + QStringLiteral("\r\n"));
+    writeFileQuickly(basics_.services().fs.toNative(path),
+                     text::encodeUtf8WithBom(page + QStringLiteral("\r\n")));
 }
 
 } // namespace lumen

@@ -1,5 +1,6 @@
 #include "list/ListLoader.h"
 
+#include "fileops/BasicHost.h"
 #include "fileops/VeroProcedure_Basical.h"
 #include "list/CommandWords.h"
 #include "list/ListGrammar.h"
@@ -94,6 +95,8 @@ ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int c
             return fill;
         }
         ++fill.fileCount;
+        if (lineNo % kChunkLines == 0)
+            basics.host().setStopText(QString::number(fill.fileCount));
         const QStringView line = view;
         switch (lineKindOf(line)) {
         case LineKind::TooIndented:
@@ -119,6 +122,10 @@ ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int c
             display += QStringLiteral("\r\n");
         }
     }
+    // The chunks are joined: the count goes by in steps of 50.
+    for (int shown = kChunkLines; shown <= lineNo / kChunkLines * kChunkLines + kChunkLines;
+         shown += kChunkLines)
+        basics.host().setStopText(QString::number(shown));
     if (withDisplayText)
         fill.displayText = Trim(display) + QLatin1Char('\r');
     return fill;
@@ -140,7 +147,11 @@ QString listViewText(const QString& displayText)
             view += line;
         }
     }
-    return view.trimmed();
+    // The line ends behind the text go; blanks were trimmed already, and tabs
+    // and ideographic spaces stay.
+    while (view.endsWith(u'\n'))
+        view.chop(1);
+    return view;
 }
 
 } // namespace lumen

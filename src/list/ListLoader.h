@@ -30,9 +30,10 @@ struct ListFill {
 
 // Steps 6 to 9 on the working copy's text: the language test and
 // SetCommandWords, then every line into ListArray (sized for `count` rows),
-// with the missing-end-word messages. Events run every 50 lines, and every
-// 64K characters within a long line; a stop leaves with the rows as far as
-// read (a line cut short by it isn't stored).
+// with the missing-end-word messages. Every 50 lines FormStop shows the count
+// and events run, and every 64K characters within a long line; a stop leaves
+// with the rows as far as read (a line cut short by it isn't stored),
+// `fileCount` counting them.
 // The display text is made only when `withDisplayText` (quick mode never shows it).
 ListFill fillListArray(VeroProcedure_Basical& basics, const QString& text, int count,
                        bool withDisplayText = true);

@@ -3,15 +3,19 @@
 #include "platform/Colors.h"
 #include "platform/Twips.h"
 
+#include <QGuiApplication>
 #include <QPushButton>
+#include <QScreen>
 #include <QVariant>
 #include <QWidget>
+#include <QWindow>
 
 namespace lumen {
 namespace {
 
 constexpr const char* kBackColorProperty = "lumenBackColor";
 constexpr const char* kForeColorProperty = "lumenForeColor";
+constexpr const char* kFramePlaceProperty = "lumenFramePlace";
 
 qint32 storedColor(const QWidget* widget, const char* property)
 {
@@ -69,29 +73,91 @@ qint32 foreColor(const QWidget* widget)
     return storedColor(widget, kForeColorProperty);
 }
 
+QMargins frameMargins(const QWidget* window)
+{
+    // The window system is asked itself: the widget's own idea of its frame
+    // is renewed only when it moves.
+    const QWindow* handle = window->windowHandle();
+    const QMargins frame = handle ? handle->frameMargins() : QMargins();
+    if (frame.left() < 0 || frame.top() < 0 || frame.right() < 0 || frame.bottom() < 0)
+        return {};
+    return frame;
+}
+
+QRect frameRect(const QWidget* window)
+{
+    return window->geometry().marginsAdded(frameMargins(window));
+}
+
+std::optional<QPoint> askedFramePlace(const QWidget* window)
+{
+    const QVariant place = window->property(kFramePlaceProperty);
+    if (!place.isValid())
+        return std::nullopt;
+    return place.toPoint();
+}
+
+void clearAskedFramePlace(QWidget* window)
+{
+    window->setProperty(kFramePlaceProperty, QVariant());
+}
+
+QRect availableArea()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->availableGeometry() : QRect(0, 0, 1024, 768);
+}
+
+namespace {
+
+// A window's frame placed at (left, top) with the outer size given, moved in
+// as far as needed to lie inside the available area.
+QPoint insideArea(int left, int top, const QSize& outer)
+{
+    const QRect area = availableArea();
+    return {qBound(area.left(), left, area.right() + 1 - outer.width()),
+            qBound(area.top(), top, area.bottom() + 1 - outer.height())};
+}
+
+// A window moved by its frame; remembered until the window manager frames it.
+void moveFrame(QWidget* window, const QPoint& at)
+{
+    window->move(at);
+    if (frameMargins(window).isNull())
+        window->setProperty(kFramePlaceProperty, at);
+    else
+        clearAskedFramePlace(window);
+}
+
+} // namespace
+
 float twLeft(const QWidget* widget)
 {
-    return pixelsToTwips(isTopLevel(widget) ? widget->frameGeometry().x() : widget->x());
+    return pixelsToTwips(isTopLevel(widget) ? frameRect(widget).x() : widget->x());
 }
 
 float twTop(const QWidget* widget)
 {
-    return pixelsToTwips(isTopLevel(widget) ? widget->frameGeometry().y() : widget->y());
+    return pixelsToTwips(isTopLevel(widget) ? frameRect(widget).y() : widget->y());
 }
 
 float twWidth(const QWidget* widget)
 {
-    return pixelsToTwips(isTopLevel(widget) ? widget->frameGeometry().width() : widget->width());
+    return pixelsToTwips(isTopLevel(widget) ? frameRect(widget).width() : widget->width());
 }
 
 float twHeight(const QWidget* widget)
 {
-    return pixelsToTwips(isTopLevel(widget) ? widget->frameGeometry().height() : widget->height());
+    return pixelsToTwips(isTopLevel(widget) ? frameRect(widget).height() : widget->height());
 }
 
 void twMove(QWidget* widget, double left, double top)
 {
-    widget->move(twipsToPixels(left), twipsToPixels(top));
+    if (isTopLevel(widget))
+        moveFrame(widget,
+                  insideArea(twipsToPixels(left), twipsToPixels(top), frameRect(widget).size()));
+    else
+        widget->move(twipsToPixels(left), twipsToPixels(top));
 }
 
 void twMove(QWidget* widget, double left, double top, double width, double height)
@@ -99,10 +165,11 @@ void twMove(QWidget* widget, double left, double top, double width, double heigh
     const int w = qMax(0, twipsToPixels(width));
     const int h = qMax(0, twipsToPixels(height));
     if (isTopLevel(widget)) {
-        // The outer size is asked for; the frame's own thickness comes off.
-        const QSize frame = widget->frameGeometry().size() - widget->geometry().size();
-        widget->move(twipsToPixels(left), twipsToPixels(top));
-        widget->resize(qMax(0, w - frame.width()), qMax(0, h - frame.height()));
+        // The outer rectangle is asked for, inside what the screen holds;
+        // the frame's own thickness comes off.
+        const QSize outer = QSize(w, h).boundedTo(availableArea().size());
+        moveFrame(widget, insideArea(twipsToPixels(left), twipsToPixels(top), outer));
+        widget->resize(outer.shrunkBy(frameMargins(widget)).expandedTo(QSize(0, 0)));
         return;
     }
     widget->setGeometry(twipsToPixels(left), twipsToPixels(top), w, h);

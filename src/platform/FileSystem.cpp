@@ -25,6 +25,33 @@ namespace lumen {
 
 namespace {
 
+QString wildcardExpression(const QString& pattern)
+{
+    QString expression;
+    for (const QChar c : pattern) {
+        if (c == u'*')
+            expression += QStringLiteral(".*");
+        else if (c == u'?')
+            expression += u'.';
+        else
+            expression += QRegularExpression::escape(QString(c));
+    }
+    return expression;
+}
+
+} // namespace
+
+QRegularExpression wildcardPattern(const QString& pattern)
+{
+    QString expression = wildcardExpression(pattern);
+    if (pattern.endsWith(u".*"))
+        expression += u'|' + wildcardExpression(pattern.chopped(2));
+    return QRegularExpression(QStringLiteral("\\A(?:") + expression + QStringLiteral(")\\z"),
+                              QRegularExpression::CaseInsensitiveOption);
+}
+
+namespace {
+
 constexpr QChar kSeparator = u'\\';
 
 QString joinNative(const QString& folder, const QString& name)
@@ -142,31 +169,6 @@ bool sameFile(const QString& a, const QString& b)
 QString findEntry(const QString& folder, const QString& name)
 {
     return existsOrLink(joinNative(folder, name)) ? name : findIgnoringCase(folder, name);
-}
-
-QString wildcardExpression(const QString& pattern)
-{
-    QString expression;
-    for (const QChar c : pattern) {
-        if (c == u'*')
-            expression += QStringLiteral(".*");
-        else if (c == u'?')
-            expression += u'.';
-        else
-            expression += QRegularExpression::escape(QString(c));
-    }
-    return expression;
-}
-
-// "*" and "?" only (no classes), without regard to case; "x.*" also
-// matches "x".
-QRegularExpression wildcardPattern(const QString& pattern)
-{
-    QString expression = wildcardExpression(pattern);
-    if (pattern.endsWith(u".*"))
-        expression += u'|' + wildcardExpression(pattern.chopped(2));
-    return QRegularExpression(QStringLiteral("\\A(?:") + expression + QStringLiteral(")\\z"),
-                              QRegularExpression::CaseInsensitiveOption);
 }
 
 // Names against a set of patterns; "*" and "*.*" match every name without

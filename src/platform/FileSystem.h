@@ -11,6 +11,7 @@
 
 #include "platform/Drives.h"
 
+#include <QRegularExpression>
 #include <QString>
 #include <QStringList>
 
@@ -21,6 +22,10 @@
 namespace lumen {
 
 enum class TreeDeleteResult { Deleted, Missing, Refused, Failed };
+
+// A name pattern as listings take it: "*" and "?" only (no classes), without
+// regard to case; "x.*" also matches "x".
+QRegularExpression wildcardPattern(const QString& pattern);
 
 class FileSystem {
 public:

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 class QEventLoop;
+class QTimer;
 
 namespace lumen {
 
@@ -35,14 +36,25 @@ protected:
     virtual void Form_Load() {}
     // Sets `cancel` to refuse the unload.
     virtual void Form_Unload(bool& cancel) { Q_UNUSED(cancel); }
+    // The window manager's frame is known and stands where the program put
+    // it (windows the program placed before they were shown).
+    virtual void windowFramed() {}
 
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     bool loaded_ = false;
     bool inLoad_ = false;
     QEventLoop* modalLoop_ = nullptr;
+    QTimer* framing_ = nullptr; // looks for the window manager's frame after a show
+    int framingLooks_ = 0;
+    int framingMoves_ = 0;
+    int steadyLooks_ = 0;
+    QRect lastSeen_;
+    QMargins lastFrame_;
+    void placeFrameOnceFramed();
 };
 
 } // namespace lumen

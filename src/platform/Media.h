@@ -24,6 +24,9 @@ public:
     virtual void open(const QString& nativePath) = 0; // plays at once when auto-start is on
     virtual void play() = 0;
     virtual void stop() = 0;
+    // Holds the medium where it stands; play() goes on from there. A player
+    // that can't hold stops.
+    virtual void pause() { stop(); }
     virtual void setAutoStart(bool on) = 0;
     virtual QString fileName() const = 0; // native; "" when nothing is open
     // The video's own size in pixels once it is known; empty for sound.

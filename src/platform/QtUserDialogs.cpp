@@ -1,8 +1,8 @@
 #include "platform/QtUserDialogs.h"
 
 #include "platform/Colors.h"
+#include "platform/DialogFilter.h"
 #include "platform/FormMessage.h"
-#include "platform/Launcher.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -18,16 +18,15 @@ namespace lumen {
 
 QString qtFilterFromClassic(const QString& classicFilter)
 {
-    const QStringList parts = classicFilter.split(QLatin1Char('|'));
     QStringList filters;
-    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        QStringList patterns = parts[i + 1].split(QLatin1Char(';'), Qt::SkipEmptyParts);
+    for (const DialogFilter& filter : dialogFilters(classicFilter)) {
+        QStringList patterns = filter.patterns;
         for (QString& pattern : patterns) {
-            pattern = pattern.trimmed();
-            if (pattern == QLatin1String("*.*"))
+            if (pattern == QLatin1String("*.*") || filter.programs)
                 pattern = QStringLiteral("*");
         }
-        filters << parts[i] + QStringLiteral(" (") + patterns.join(QLatin1Char(' ')) +
+        patterns.removeDuplicates();
+        filters << filter.caption + QStringLiteral(" (") + patterns.join(QLatin1Char(' ')) +
                        QLatin1Char(')');
     }
     return filters.join(QStringLiteral(";;"));
@@ -35,25 +34,17 @@ QString qtFilterFromClassic(const QString& classicFilter)
 
 namespace {
 
-// A classic filter for programs ("...(*.exe)|*.exe"): every pattern is
-// "*.exe". On this system programs have no such ending; the dialog lists
-// the files that may be started instead, under the filter's caption.
-bool asksForPrograms(const QString& classicFilter)
-{
-    const QStringList parts = classicFilter.split(QLatin1Char('|'));
-    if (parts.size() < 2)
-        return false;
-    for (qsizetype i = 1; i < parts.size(); i += 2) {
-        if (parts[i].trimmed().compare(QLatin1String("*.exe"), Qt::CaseInsensitive) != 0)
-            return false;
-    }
-    return true;
-}
-
-// Folders, and the files with an execute bit.
-class ProgramFiles : public QSortFilterProxyModel {
+// What the file dialog lists: folders, and the files that the chosen filter
+// of the classic form picks (DialogFilter), programs by their exec bit.
+class DialogFilterModel : public QSortFilterProxyModel {
 public:
     using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    void choose(const DialogFilter& filter)
+    {
+        filter_ = filter;
+        invalidateFilter();
+    }
 
 protected:
     bool filterAcceptsRow(int row, const QModelIndex& parent) const override
@@ -61,23 +52,41 @@ protected:
         const auto* files = qobject_cast<const QFileSystemModel*>(sourceModel());
         if (!files)
             return true;
-        const QFileInfo info = files->fileInfo(files->index(row, 0, parent));
-        return info.isDir() || isExecutableFile(info.absoluteFilePath());
+        const QModelIndex index = files->index(row, 0, parent);
+        return files->isDir(index) || dialogFilterMatches(filter_, files->filePath(index));
     }
+
+private:
+    DialogFilter filter_{QString(), {QStringLiteral("*")}, false};
 };
 
-std::optional<QString> openProgramName(QWidget* owner, const QString& title,
-                                       const QString& startPath, const QString& classicFilter)
+std::optional<QString> runFileDialog(QWidget* owner, QFileDialog::AcceptMode mode,
+                                     const QString& title, const QString& startPath,
+                                     const QString& classicFilter)
 {
-    QFileDialog dialog(owner, title);
+    QFileDialog dialog(owner, title, startPath);
+    dialog.setObjectName(QStringLiteral("FileDialog"));
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile
+                                                       : QFileDialog::AnyFile);
+    // Qt's own dialog, whose listing goes through the filter model; the
+    // captions stand as they are given.
     dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setProxyModel(new ProgramFiles(&dialog));
-    dialog.setNameFilter(classicFilter.section(QLatin1Char('|'), 0, 0) + QStringLiteral(" (*)"));
-    const QFileInfo start(startPath);
-    dialog.setDirectory(start.isDir() ? startPath : start.path());
-    if (!start.isDir())
-        dialog.selectFile(start.fileName());
+    dialog.setOption(QFileDialog::HideNameFilterDetails);
+    const QList<DialogFilter> filters = dialogFilters(classicFilter);
+    const QStringList names = qtFilterFromClassic(classicFilter).split(QStringLiteral(";;"));
+    auto* model = new DialogFilterModel(&dialog);
+    dialog.setProxyModel(model);
+    if (!filters.isEmpty()) {
+        dialog.setNameFilters(names);
+        model->choose(filters.first());
+    }
+    QObject::connect(&dialog, &QFileDialog::filterSelected, model, [&](const QString& chosen) {
+        const qsizetype index = names.indexOf(chosen);
+        if (index >= 0 && index < filters.size())
+            model->choose(filters[index]);
+    });
+    dialog.setWindowModality(Qt::ApplicationModal);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return dialog.selectedFiles().first();
@@ -106,6 +115,13 @@ QtUserDialogs::~QtUserDialogs()
 void QtUserDialogs::msgBox(const QString& text)
 {
     QMessageBox box(QMessageBox::NoIcon, kDefaultTitle, text, QMessageBox::Ok, dialogParent());
+    box.setWindowModality(Qt::ApplicationModal);
+    box.exec();
+}
+
+void QtUserDialogs::msgBoxExclamation(const QString& text)
+{
+    QMessageBox box(QMessageBox::Warning, kDefaultTitle, text, QMessageBox::Ok, dialogParent());
     box.setWindowModality(Qt::ApplicationModal);
     box.exec();
 }
@@ -161,23 +177,13 @@ void QtUserDialogs::hideMessage()
 std::optional<QString> QtUserDialogs::openFileName(const QString& title, const QString& startPath,
                                                    const QString& filter)
 {
-    if (asksForPrograms(filter))
-        return openProgramName(dialogParent(), title, startPath, filter);
-    const QString name =
-        QFileDialog::getOpenFileName(dialogParent(), title, startPath, qtFilterFromClassic(filter));
-    if (name.isEmpty())
-        return std::nullopt;
-    return name;
+    return runFileDialog(dialogParent(), QFileDialog::AcceptOpen, title, startPath, filter);
 }
 
 std::optional<QString> QtUserDialogs::saveFileName(const QString& title, const QString& startPath,
                                                    const QString& filter)
 {
-    const QString name =
-        QFileDialog::getSaveFileName(dialogParent(), title, startPath, qtFilterFromClassic(filter));
-    if (name.isEmpty())
-        return std::nullopt;
-    return name;
+    return runFileDialog(dialogParent(), QFileDialog::AcceptSave, title, startPath, filter);
 }
 
 QString QtUserDialogs::browseForFolder(const QString& title, const QString& startPath)

@@ -22,6 +22,7 @@ public:
     void setOwner(QWidget* owner) { owner_ = owner; }
 
     void msgBox(const QString& text) override;
+    void msgBoxExclamation(const QString& text) override;
     int askYesNo(const QString& text) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& title,
                                     const QString& defaultText) override;

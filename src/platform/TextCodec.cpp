@@ -197,6 +197,11 @@ QByteArray encodeForFile(const QString& text)
 {
     if (const auto cp932 = encodeCp932(text); cp932 && !readsAsUtf8(*cp932))
         return *cp932;
+    return encodeUtf8WithBom(text);
+}
+
+QByteArray encodeUtf8WithBom(const QString& text)
+{
     return kUtf8Bom.toByteArray() + text.toUtf8();
 }
 

@@ -29,6 +29,10 @@ std::optional<QByteArray> encodeCp932(const QString& text);
 // the text back.
 QByteArray encodeForFile(const QString& text);
 
+// BOM + UTF-8 whatever the text: for pages that a browser reads, where the
+// mark stands above any guess of the encoding.
+QByteArray encodeUtf8WithBom(const QString& text);
+
 // A fixed-width record field: CP932 if it fits, else UTF-8; cut at a
 // character boundary so that it fits `width` bytes (not padded). As with
 // files, CP932 that would read back as UTF-8 is given as UTF-8.

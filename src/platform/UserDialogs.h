@@ -26,8 +26,9 @@ class UserDialogs {
 public:
     virtual ~UserDialogs() = default;
 
-    virtual void msgBox(const QString& text) = 0;  // OK only
-    virtual int askYesNo(const QString& text) = 0; // kAnswerYes or kAnswerNo
+    virtual void msgBox(const QString& text) = 0;            // OK only
+    virtual void msgBoxExclamation(const QString& text) = 0; // OK only, with the exclamation mark
+    virtual int askYesNo(const QString& text) = 0;           // kAnswerYes or kAnswerNo
     // Nothing when cancelled.
     virtual std::optional<QString> inputBox(const QString& prompt, const QString& title,
                                             const QString& defaultText) = 0;
@@ -39,7 +40,8 @@ public:
     virtual void hideMessage() = 0;
 
     // File dialogs. Paths are native; `filter` is in the classic form
-    // "(*.lst)|*.lst|(*.*)|*.*". Nothing on cancel.
+    // "(*.lst)|*.lst|(*.*)|*.*" (DialogFilter.h: "*.exe" lists programs).
+    // Nothing on cancel.
     virtual std::optional<QString> openFileName(const QString& title, const QString& startPath,
                                                 const QString& filter) = 0;
     virtual std::optional<QString> saveFileName(const QString& title, const QString& startPath,
@@ -55,7 +57,8 @@ public:
 };
 
 // Qt's classic-filter translation: "(*.lst)|*.lst|(*.*)|*.*" becomes
-// "(*.lst) (*.lst);;(*.*) (*)". Exposed for tests.
+// "(*.lst) (*.lst);;(*.*) (*)", and a programs filter "(*.exe)|*.exe"
+// becomes "(*.exe) (*)", the filter model picking the programs. Exposed for tests.
 QString qtFilterFromClassic(const QString& classicFilter);
 
 } // namespace lumen

@@ -231,8 +231,10 @@ void FormSetAccessDirectry::searchPrograms()
 
 void FormSetAccessDirectry::CheckFoundApps()
 {
+    // A row whose program isn't there keeps its design text, red.
     for (int i = 0; i < kRows; ++i) {
-        rowBox(i)->setText(rowField(i));
+        const QString path = rowField(i);
+        rowBox(i)->setText(basics_.FileExists(Trim(path)) ? path : rows()[size_t(i)].designText);
         checkRow(i);
     }
     updateCommandExit();

@@ -5,6 +5,7 @@
 #include "display/MediaPanel.h"
 #include "display/PictureBox.h"
 #include "display/PictureCache.h"
+#include "display/ShowKeys.h"
 #include "display/WebBrowser.h"
 #include "fileops/VeroProcedure_Basical.h"
 #include "platform/ClickLabel.h"
@@ -22,10 +23,10 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace lumen {
@@ -225,6 +226,8 @@ void FormMain::buildDisplay()
             centreVideo();
     });
     LabelComment = new ClickLabel(QStringLiteral("LabelComment"), QString(), Picture1);
+    LabelComment->setCursor(Qt::SizeAllCursor);
+    LabelComment->installEventFilter(this);
     LabelComment->hide();
     CommandNoText =
         commandButton(QStringLiteral("CommandNoText"), QStringLiteral("ﾘｽﾄを閉じる"), Picture1);
@@ -281,23 +284,7 @@ void FormMain::connectHandlers()
                 });
     }
 
-    // Keys for the show: Page Down and Page Up turn the pages, Escape ends the
-    // list view.
-    auto* next = new QShortcut(QKeySequence(Qt::Key_PageDown), this);
-    connect(next, &QShortcut::activated, this, [this] {
-        if (CommandRight->isEnabled())
-            CommandRight_Click();
-    });
-    auto* previous = new QShortcut(QKeySequence(Qt::Key_PageUp), this);
-    connect(previous, &QShortcut::activated, this, [this] {
-        if (CommandLeft->isEnabled())
-            CommandLeft_Click();
-    });
-    auto* endView = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    connect(endView, &QShortcut::activated, this, [this] {
-        if (!CommandNoText->isHidden())
-            CommandNoText_Click();
-    });
+    addShowKeys(this, [this](ShowKey key) { showKey(key); });
 
     connectPictureWork();
 }
@@ -366,6 +353,16 @@ void FormMain::CommandOption_Click()
 
 bool FormMain::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == LabelComment &&
+        (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseMove)) {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        const auto x = float(mouse->position().x() * kTwipsPerPixel);
+        const auto y = float(mouse->position().y() * kTwipsPerPixel);
+        if (event->type() == QEvent::MouseButtonPress)
+            LabelComment_MouseDown(mouse->button(), x, y);
+        else
+            LabelComment_MouseMove(mouse->buttons(), x, y);
+    }
     if (watched == CommandScrollSizeAllowValue && event->type() == QEvent::Enter) {
         // The tip beside the button, placed from the window, the frame and the button.
         basics_.ShowFloatingMessage(

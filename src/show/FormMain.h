@@ -4,6 +4,7 @@
 // (picture work and modes), Frame3 at the bottom (the page's file).
 #pragma once
 
+#include "display/ShowKeys.h"
 #include "platform/FormBase.h"
 #include "settings/AutoStartTable.h"
 
@@ -161,6 +162,10 @@ public:
     bool HideWave = false;
     bool TextShown = false;
 
+    // ---- LabelComment: where it was taken hold of, twips inside it
+    qint16 LabelDragX = 0;
+    qint16 LabelDragY = 0;
+
     // ---- Procedures
     void Form_Resize();
     void FormResizeNorMal();
@@ -216,6 +221,15 @@ public:
     void CommandIERight_Click();
     void Picture3_MouseUp(QWidget* picture, Qt::MouseButton button, float x, float y);
     void CommandOption_Click();
+    // A key of the show (ShowKeys.h), in the normal window or whole-screen mode.
+    void showKey(ShowKey key);
+    void LabelComment_MouseDown(Qt::MouseButton button, float x, float y);
+    void LabelComment_MouseMove(Qt::MouseButtons buttons, float x, float y);
+
+    // LabelComment marks where a comment printed on the picture goes: it
+    // carries the page's comment in the comment set's look, and stands over
+    // the picture only while the picture work shows it.
+    void setCommentVisible(bool shown);
 
     // ---- Picture work (FormMainPictureWork.cpp)
     void CommandModPic_Click();
@@ -229,6 +243,7 @@ protected:
     void Form_Load() override;
     void Form_Unload(bool& cancel) override;
     void resizeEvent(QResizeEvent* event) override;
+    void windowFramed() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -247,7 +262,7 @@ private:
     void prepareNextPicture();
     QSize fittedSize(const QSize& picture) const;
     bool loadPageIntoPicture2(const QString& file);
-    void setCommentVisible(bool shown);
+    void setLabelComment(const QString& text);
     void step(int direction);
     void relayoutVideo(bool showIt);
     void openOnPanel(MediaPanel* panel, const QString& programPath);
@@ -260,6 +275,7 @@ private:
     void centreVideo();
     void playMovieOverWeb(const QString& programPath);
     void showIn3DViewer(const FixedString<100>& viewerPath);
+    void applySizeLimits();
     void buildFrame1();
     void buildSelectCommands(); // FormMainSelect.cpp
     void buildFrame2();

@@ -181,10 +181,13 @@ void FormMain::TakeMainAction()
     if (comment.isEmpty() || HideComment) {
         HasComment = false;
         forms_.unload(QStringLiteral("FormComment"));
+        setLabelComment(QString());
     } else {
         HasComment = true;
+        const QString text = pageCommentText();
         if (auto* window = static_cast<FormComment*>(forms_.form(QStringLiteral("FormComment"))))
-            window->setCommentText(pageCommentText());
+            window->setCommentText(text);
+        setLabelComment(text);
     }
 
     CommandNoText->hide();
@@ -269,12 +272,6 @@ QString FormMain::pageCommentText()
         return QString();
     const int mark = InStr(comment, kCommentMark);
     return mark >= 1 && mark <= 4 ? Mid(comment, mark + 7) : basics_.ReadTextOfFile(comment);
-}
-
-void FormMain::showCommentWindow()
-{
-    if (FormBase* window = forms_.form(QStringLiteral("FormComment")))
-        window->showForm();
 }
 
 void FormMain::runOption(const QString& word)

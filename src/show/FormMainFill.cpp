@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QScreen>
 #include <QScrollBar>
+#include <QSignalBlocker>
 
 namespace lumen {
 namespace {
@@ -73,7 +74,12 @@ void FormMain::CommandFull_Click()
     if (auto* navigator =
             static_cast<FormRightLeftNorm*>(forms_.form(QStringLiteral("FormRightLeftNorm")))) {
         navigator->showForm(); // a window that stays on top
+        // Value, Max, Min in that order, onto a bar whose range already fits
+        // this list (an older list's range would cut the value), and without
+        // its change handler turning the page on the way.
         QScrollBar* bar = navigator->HScroll1;
+        const QSignalBlocker quiet(bar);
+        bar->setRange(HScrollPicNom->minimum(), HScrollPicNom->maximum());
         bar->setValue(HScrollPicNom->value());
         bar->setMaximum(HScrollPicNom->maximum());
         bar->setMinimum(HScrollPicNom->minimum());

@@ -59,15 +59,34 @@ void FormMain::Form_Resize()
     inResize_ = false;
 }
 
+void FormMain::applySizeLimits()
+{
+    // The normal layout never gets smaller than 12000 by 8500, frame
+    // included, nor larger than the screen's available area: on a small
+    // screen the area wins. The minimum size is the inside of that.
+    const QSize smallest = QSize(twipsToPixels(kMinWidth), twipsToPixels(kMinHeight))
+                               .boundedTo(availableArea().size())
+                               .shrunkBy(frameMargins(this))
+                               .expandedTo(QSize(0, 0));
+    setMinimumSize(smallest);
+}
+
+void FormMain::windowFramed()
+{
+    // The frame's thickness is known only now: the minimum is taken again.
+    if (shown(CommandLeft, this))
+        applySizeLimits();
+}
+
 void FormMain::FormResizeNorMal()
 {
-    // The normal layout never gets smaller than 12000 by 8500.
-    setMinimumSize(twipsToPixels(kMinWidth) - (frameGeometry().width() - width()),
-                   twipsToPixels(kMinHeight) - (frameGeometry().height() - height()));
-    if (twWidth(this) < kMinWidth)
-        twResize(this, kMinWidth, twHeight(this));
-    if (twHeight(this) < kMinHeight)
-        twResize(this, twWidth(this), kMinHeight);
+    applySizeLimits();
+    const QRect area = availableArea();
+    const QRect outer = frameRect(this);
+    if (twWidth(this) < kMinWidth || twHeight(this) < kMinHeight || outer.width() > area.width() ||
+        outer.height() > area.height())
+        twResize(this, qMax(double(twWidth(this)), kMinWidth),
+                 qMax(double(twHeight(this)), kMinHeight));
 
     Picture1->show();
     const double scaleWidth = twScaleWidth(this);

@@ -30,6 +30,7 @@ using namespace basic;
 
 constexpr int kListViewSeconds = 31;
 constexpr double kOutOfSight = -30000;
+constexpr double kBesideText = 100; // twips between the list view and CommandNoText
 
 bool shownOwn(const QWidget* control)
 {
@@ -47,6 +48,10 @@ void FormMain::OpenFileList(const QString& fileName)
         return;
 
     basics_.host().showStop();
+    // A list opened at start (the last one, again) opens while the window
+    // is still loading: its half-minute view needs the window on show.
+    if (!isVisible())
+        show();
     setWindowTitle(QStringLiteral("Lumenta_KDR"));
     Picture2->hide();
     Picture3->hide();
@@ -58,20 +63,26 @@ void FormMain::OpenFileList(const QString& fileName)
         stopAutoPage();
 
     basics_.WaitMilliseconds(100);
+    // The whole file is read here, which clears a stop asked for before; the
+    // text was read with the count already, unless the count found nothing.
+    state_.StopRequested = false;
     if (count == 0) {
         state_.ListFileName = workingCopyName(basics_);
         text = basics_.ReadTextOfFile(source);
     }
     const bool quick = CheckQuiCkWork->isChecked();
     const ListFill fill = fillListArray(basics_, text, count, !quick);
+    FileCount = fill.fileCount; // a stop leaves the rows as far as read
     if (fill.stopped)
         return;
-    FileCount = fill.fileCount;
 
     twMove(Picture2, 0, 0, twWidth(Picture1), twHeight(Picture1));
     Picture2->show();
     if (!quick) {
-        twMove(Text1, 0, 0, twWidth(Picture1), twHeight(Picture1));
+        // The list over the display area, CommandNoText 100 twips beside it.
+        CommandNoText->adjustSize();
+        twMove(Text1, 0, 0, twWidth(Picture1) - twWidth(CommandNoText) - 2 * kBesideText,
+               twHeight(Picture1));
         Text1->setPlainText(listViewText(fill.displayText));
         Text1->show();
     }
@@ -81,9 +92,7 @@ void FormMain::OpenFileList(const QString& fileName)
     TextTotal->setText(QString::number(FileCount));
     TextFileName->setText(state_.ListArray.at(kColMain, 1));
     if (!quick) {
-        // Beside the text, at its top right corner, over it.
-        CommandNoText->adjustSize();
-        twMove(CommandNoText, twWidth(Text1) - twWidth(CommandNoText) - 100, 100);
+        twMove(CommandNoText, twLeft(Text1) + twWidth(Text1) + kBesideText, kBesideText);
         CommandNoText->show();
         CommandNoText->raise();
     }

@@ -9,6 +9,7 @@
 #include "list/CommandWords.h"
 #include "list/ExtTable.h"
 #include "platform/Basic.h"
+#include "platform/ClickLabel.h"
 #include "platform/Colors.h"
 #include "platform/Controls.h"
 #include "platform/FileSystem.h"
@@ -47,7 +48,7 @@ void FormMain::Form_Load()
     CheckUseCyberView->setChecked(checkValue(record.CyberViewOn) == 1);
     applyFonts();
 
-    move(0, 0);
+    twMove(this, 0, 0);
     makeWorkingFolders(basics_);
 
     Text1->hide();
@@ -102,6 +103,13 @@ void FormMain::applyFonts()
         box->setFont(small);
     applyTextLook(FixedText(record.TextFontName), FixedText(record.TextFontSize),
                   FixedText(record.TextFontColor), FixedText(record.TextBackColor));
+    // LabelComment in the comment's look, as FormComment takes it.
+    LabelComment->setFont(fontFrom(LabelComment->font(), FixedText(record.CommentFontName),
+                                   Val(FixedText(record.CommentFontSize))));
+    if (const QString ground = FixedText(record.CommentBackColor); IsNumeric(ground))
+        setBackColor(LabelComment, bgrFromText(ground));
+    if (const QString letters = FixedText(record.CommentForeColor); IsNumeric(letters))
+        setForeColor(LabelComment, bgrFromText(letters));
 }
 
 void FormMain::saveRecord()

@@ -65,6 +65,33 @@ void FormMain::CommandLeft_Click()
     step(-1);
 }
 
+void FormMain::showKey(ShowKey key)
+{
+    const bool wholeScreen = !CommandLeft->isVisibleTo(this);
+    switch (key) {
+    case ShowKey::Next:
+        if (CommandRight->isEnabled())
+            CommandRight_Click();
+        break;
+    case ShowKey::Previous:
+        if (CommandLeft->isEnabled())
+            CommandLeft_Click();
+        break;
+    case ShowKey::First:
+    case ShowKey::Last:
+        // Through the page bar, as a drag of it to its end would.
+        ScrollGuard = false;
+        HScrollPicNom->setValue(key == ShowKey::First ? 1 : HScrollPicNom->maximum());
+        break;
+    case ShowKey::Escape:
+        if (!CommandNoText->isHidden())
+            CommandNoText_Click();
+        else if (wholeScreen)
+            FORMNORMALSIZE();
+        break;
+    }
+}
+
 void FormMain::HScrollPicNom_Scroll()
 {
     const int value = HScrollPicNom->sliderPosition();

@@ -308,7 +308,7 @@ void FormMain::SetWebScrollBars()
 
 void FormMain::RelayoutCurrentPage()
 {
-    const QString forced = Trim(ForcedShowKind);
+    const QString forced = UCase(Trim(ForcedShowKind)); // SHOW words in any case
     QString kind;
     if (forced == QLatin1String("SHOW_NON"))
         return;

@@ -62,6 +62,7 @@ FormOption::FormOption(VeroProcedure_Basical& basics, FormMain& main, QWidget* p
     setWindowTitle(QStringLiteral("自動ﾍﾟｰｼﾞ"));
     Frame1 = named<QGroupBox>(QStringLiteral("Frame1"), QStringLiteral("間隔 (秒)"), this);
     Frame1->installEventFilter(this);
+    Frame1->setMouseTracking(true); // its hint comes with each move over it
     TextIntervalTime = named<QLineEdit>(QStringLiteral("TextIntervalTime"), Frame1);
     TextIntervalTime->setFixedWidth(64);
     HScroll1 = named<QScrollBar>(QStringLiteral("HScroll1"), Qt::Horizontal, Frame1);
@@ -169,6 +170,9 @@ void FormOption::CommandStart_Click()
     if (!state.ListReady)
         return;
     hide();
+    // A hint still waiting out its second (the start was pressed during it)
+    // goes now; while the show runs no other comes.
+    basics_.services().ui.hideMessage();
     StopPressed = false;
     state.AutoPageOn = true;
     TextIntervalTime->setEnabled(false);
@@ -341,7 +345,7 @@ void FormOption::Frame1_MouseMove()
 
 bool FormOption::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == Frame1 && event->type() == QEvent::Enter)
+    if (watched == Frame1 && event->type() == QEvent::MouseMove)
         Frame1_MouseMove();
     return FormBase::eventFilter(watched, event);
 }

@@ -176,8 +176,9 @@ void Lumenta::registerForms()
 
 void Lumenta::registerShowForms()
 {
+    // The comment stays above the main window: a tool window of it.
     forms_.add(QStringLiteral("FormComment"),
-               [this]() -> FormBase* { return new FormComment(basics_, forms_); });
+               [this]() -> FormBase* { return new FormComment(basics_, forms_, &formMain()); });
     forms_.add(QStringLiteral("FormOmake"),
                [this]() -> FormBase* { return new FormOmake(forms_); });
     forms_.add(QStringLiteral("FormCDMusic"),

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScrollBar>
 
 namespace lumen {
@@ -63,6 +64,8 @@ void Lumenta::registerAutoPageForms()
         links.webPageShown = [this] { return state_.WebPageShown; };
         links.ieLeft = [this] { formMain().CommandIELeft_Click(); };
         links.ieRight = [this] { formMain().CommandIERight_Click(); };
+        links.showKey = [this](ShowKey key) { formMain().showKey(key); };
+        links.wholeScreen = [this] { return !formMain().CommandLeft->isVisibleTo(&formMain()); };
         return navigator;
     });
     forms_.add(QStringLiteral("FormSetFontAndColor"),

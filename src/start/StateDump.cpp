@@ -102,9 +102,10 @@ QString StateDump::text() const
                          .arg(centre.x())
                          .arg(centre.y());
         };
-        for (const char* name : {"CommandFull", "CommandOption", "CommandExit", "CommandStart",
-                                 "CommandStop", "CommandToNormalSize", "CommandSelectFile",
-                                 "CheckQuiCkWork", "CommandAll", "CommandSaveFile"})
+        for (const char* name :
+             {"CommandFull", "CommandOption", "CommandExit", "CommandStart", "CommandNoText",
+              "LabelDo", "CommandStop", "CommandToNormalSize", "CommandSelectFile",
+              "CheckQuiCkWork", "CommandAll", "CommandSaveFile"})
             clickable(name);
         for (const char* name : kPictureWorkControls)
             clickable(name);

@@ -194,6 +194,7 @@ void TestFormComment::popupOptions()
     f.forms.add(QStringLiteral("FormSetFontAndColor"),
                 [] { return new FormBase(QStringLiteral("FormSetFontAndColor")); });
     FormBase* settings = f.forms.form(QStringLiteral("FormSetFontAndColor"));
+    settings->resize(120, 80); // small enough to stand beside the popup on the screen
     FormComment& form = f.shownComment();
     const QSize before = form.size();
     clickLabel(form.Label1, Qt::RightButton, {20, 10});

@@ -5,6 +5,8 @@
 #include "support/Shots.h"
 
 #include <QSignalSpy>
+#include <QSlider>
+#include <QStyle>
 #include <QTest>
 #include <QToolButton>
 
@@ -39,6 +41,8 @@ private Q_SLOTS:
     void displaySize();
     void lateVideoSizeIsToldAfterSizing();
     void fullScreenFollowsThePlay();
+    void barAndButtonFollowThePlayer_data();
+    void barAndButtonFollowThePlayer();
 };
 
 void TestMediaPanel::operationsAndButtonsReachTheEngine()
@@ -126,6 +130,54 @@ void TestMediaPanel::fullScreenFollowsThePlay()
     p.panel->setFullScreen(false);
     p.panel->Open(QStringLiteral("/shows/b.avi"));
     QCOMPARE(p.engine->calls, (QStringList{"fullscreen off", "open /shows/b.avi"}));
+}
+
+void TestMediaPanel::barAndButtonFollowThePlayer_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::newRow("MIDI") << "/shows/four.mid";
+    QTest::newRow("MP3") << "/shows/voice.mp3";
+}
+
+// While the medium plays, the position bar goes with it and the play button
+// offers a pause; a pause holds the bar; at the end the bar is back at its
+// start and the button offers play again.
+void TestMediaPanel::barAndButtonFollowThePlayer()
+{
+    Panel p(false);
+    auto* bar = p.panel->findChild<QSlider*>("PositionBar");
+    auto* play = p.panel->findChild<QToolButton*>("PlayButton");
+    p.engine->length = 4000;
+    p.panel->Open(FETCH(QString, file)); // plays at once
+    QCOMPARE(play->toolTip(), QStringLiteral("一時停止"));
+    QCOMPARE(play->icon().pixmap(16).toImage(),
+             p.panel->style()->standardIcon(QStyle::SP_MediaPause).pixmap(16).toImage());
+    QCOMPARE(bar->maximum(), 4000);
+    p.engine->at = 1500;
+    QTRY_COMPARE(bar->value(), 1500);
+    p.engine->at = 2750;
+    QTRY_COMPARE(bar->value(), 2750);
+
+    QTest::mouseClick(play, Qt::LeftButton);
+    QCOMPARE(p.engine->calls.last(), QStringLiteral("pause"));
+    QCOMPARE(play->toolTip(), QStringLiteral("再生"));
+    p.engine->at = 0; // a held player is no longer asked
+    QTest::qWait(400);
+    QCOMPARE(bar->value(), 2750);
+
+    QTest::mouseClick(play, Qt::LeftButton);
+    QCOMPARE(p.engine->calls.last(), QStringLiteral("play"));
+    QCOMPARE(play->toolTip(), QStringLiteral("一時停止"));
+    p.engine->at = 3900;
+    QTRY_COMPARE(bar->value(), 3900);
+    p.engine->finish();
+    QCOMPARE(bar->value(), 0);
+    QCOMPARE(play->toolTip(), QStringLiteral("再生"));
+    const auto face = [&](QStyle::StandardPixmap icon) {
+        return p.panel->style()->standardIcon(icon).pixmap(16).toImage();
+    };
+    QCOMPARE(play->icon().pixmap(16).toImage(), face(QStyle::SP_MediaPlay));
+    QVERIFY(face(QStyle::SP_MediaPlay) != face(QStyle::SP_MediaPause));
 }
 
 QTEST_MAIN(TestMediaPanel)

@@ -64,7 +64,8 @@ void TestBasicText::oneText_data()
     row("strip: trailing", StripTrailingBackslash, "C:\\a\\\\ ", "C:\\a");
     row("strip: doubles inside kept", StripTrailingBackslash, "C:\\\\a\\\\b", "C:\\\\a\\\\b");
     row("strip: root", StripTrailingBackslash, "C:\\", "C:");
-    row("collapse: trailing", CollapseDoubleBackslash, "C:\\a\\\\ ", "C:\\a\\");
+    row("collapse: trailing, blanks kept", CollapseDoubleBackslash, " C:\\a\\\\ ", " C:\\a\\ ");
+    row("collapse: none, trimmed", CollapseDoubleBackslash, " C:\\a\\b ", "C:\\a\\b");
     row("collapse: first of two", CollapseDoubleBackslash, "C:\\\\a\\\\b", "C:\\a\\\\b");
     row("collapse: root", CollapseDoubleBackslash, "C:\\", "C:\\");
 }

@@ -368,8 +368,17 @@ void TestListFiles::loaderStopsOnRequest()
     f.clock.doEventsCount = 0;
     const ListFill fill = fillListArray(f.basics, text, count);
     QVERIFY(fill.stopped);
+    QCOMPARE(fill.fileCount, 99);
     QCOMPARE(f.state.ListArray.at(kColMain, 99), QStringLiteral("C:\\p99.jpg"));
     QCOMPARE(f.state.ListArray.at(kColMain, 100), QString());
+    QCOMPARE(f.host.stopTexts, QStringList{"50"}); // the count, every 50 lines
+
+    // Read to its end, the count goes by every 50 lines and again as the
+    // pieces are joined.
+    f.state.StopRequested = false;
+    f.host.stopTexts.clear();
+    fillListArray(f.basics, text.left(text.indexOf(QStringLiteral("C:\\p121.jpg"))), count);
+    QCOMPARE(f.host.stopTexts, (QStringList{"50", "100", "50", "100", "150"}));
 }
 
 // A list of one line of 66,000 items: events run while it is parsed, and a

@@ -1,15 +1,22 @@
 // Windows load, unload (hide) and load again; modal shows return when the
 // window goes; the frame's close is an unload that the window may refuse.
 #include "platform/Controls.h"
+#include "platform/DialogFilter.h"
 #include "platform/FormBase.h"
+#include "platform/Translations.h"
 #include "platform/UserDialogs.h"
 #include "support/Fetch.h"
 
+#include <QFile>
 #include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
 using namespace lumen;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -107,10 +114,73 @@ private Q_SLOTS:
         row("list and all", "(*.lst)|*.lst|(*.*)|*.*", "(*.lst) (*.lst);;(*.*) (*)");
         row("two patterns", "画像|*.jpg;*.bmp", "画像 (*.jpg *.bmp)");
         row("odd part dropped", "(*.*)|*.*|x", "(*.*) (*)");
+        row("programs under their caption", "画像エディター (*.exe)|*.exe",
+            "画像エディター (*.exe) (*)");
     }
     void classicFilters()
     {
         QCOMPARE(qtFilterFromClassic(FETCH(QString, classic)), FETCH(QString, qt));
+    }
+
+    // What a filter lists: names by pattern without regard to case, and
+    // under "*.exe" the files that may be run, whatever their names.
+    void filterMatches_data()
+    {
+        QTest::addColumn<QString>("classic");
+        QTest::addColumn<QString>("file"); // made in a folder of the test; "/" a real path
+        QTest::addColumn<bool>("executable");
+        QTest::addColumn<bool>("listed");
+        const QString programs = QStringLiteral("画像エディター (*.exe)|*.exe");
+        QTest::newRow("xdg-open") << programs << "/usr/bin/xdg-open" << true << true;
+        QTest::newRow("a script without suffix") << programs << "paint" << true << true;
+        QTest::newRow("a program with a suffix") << programs << "paint.sh" << true << true;
+        QTest::newRow("a Windows program file") << programs << "PAINT.EXE" << false << false;
+        QTest::newRow("a text") << programs << "notes.txt" << false << false;
+        QTest::newRow("list in capitals") << "(*.lst)|*.lst"
+                                          << "SHOW.LST" << false << true;
+        QTest::newRow("list behind") << "(*.lst)|*.lst"
+                                     << "show.lst.bak" << false << false;
+        QTest::newRow("an executable list is a list only") << "(*.lst)|*.lst"
+                                                           << "run" << true << false;
+        QTest::newRow("all, no dot") << "(*.*)|*.*"
+                                     << "README" << false << true;
+        QTest::newRow("second filter") << "(*.lst)|*.lst|画像|*.jpg;*.bmp"
+                                       << "a.BMP" << false << true;
+    }
+    void filterMatches()
+    {
+        QFETCH(QString, classic);
+        QFETCH(QString, file);
+        QTemporaryDir folder;
+        if (!file.startsWith(u'/')) {
+            file = folder.filePath(file);
+            QFile made(file);
+            QVERIFY(made.open(QIODevice::WriteOnly));
+            made.write("#!/bin/sh\n");
+            made.close();
+            QFileDevice::Permissions mode = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
+            if (FETCH(bool, executable))
+                mode |= QFileDevice::ExeOwner;
+            QVERIFY(made.setPermissions(mode));
+        }
+        const QList<DialogFilter> filters = dialogFilters(classic);
+        QVERIFY(!filters.isEmpty());
+        QCOMPARE(dialogFilterMatches(filters.last(), file), FETCH(bool, listed));
+    }
+
+    // Qt's own buttons and dialog labels read in Japanese, whatever the
+    // locale; a folder without the file leaves them as they were.
+    void qtTextsInJapanese()
+    {
+        QLocale::setDefault(QLocale::c());
+        QVERIFY(!installJapaneseQtTexts(QStringLiteral("/nonexistent")));
+        QCOMPARE(QCoreApplication::translate("QFileDialog", "Look in:"), u"Look in:"_s);
+        QVERIFY(installJapaneseQtTexts());
+        QMessageBox box;
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+        QCOMPARE(box.button(QMessageBox::Cancel)->text(), u"キャンセル"_s);
+        QCOMPARE(box.button(QMessageBox::Yes)->text(), u"はい(&Y)"_s);
+        QCOMPARE(QCoreApplication::translate("QFileDialog", "Look in:"), u"アドレス:"_s);
     }
 };
 

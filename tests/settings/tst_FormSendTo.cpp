@@ -9,6 +9,7 @@
 #include "settings/SendToList.h"
 #include "support/BasicsFixture.h"
 #include "support/Fetch.h"
+#include "support/SendToListText.h"
 #include "support/Shots.h"
 
 #include <QComboBox>
@@ -29,7 +30,7 @@ const QString kSendToList = QStringLiteral("Lumentas/ForProgramRun_KDR/SendToLis
 
 QByteArray defaultBytes()
 {
-    return text::encodeForFile(defaultSendToListLines().join("\r\n") + "\r\n");
+    return text::encodeForFile(expectedSendToListLines().join("\r\n") + "\r\n");
 }
 
 QStringList texts(const QAbstractItemModel* model)
@@ -201,7 +202,7 @@ private Q_SLOTS:
         const QByteArray sjis(
             "'\x95\x5C\x8E\xA6\r\nC:\\My Tools\\view\r\n\r\nSHOW_NON,AUTO_START,.BAT\r\n");
         const QString text = u"'表示\nC:\\My Tools\\view\n\nSHOW_NON,AUTO_START,.BAT"_s;
-        const QString defaults = defaultSendToListLines().join("\n");
+        const QString defaults = expectedSendToListLines().join("\n");
         const QByteArray old("old\r\n");
         QTest::newRow("Shift-JIS, CR LF, as loaded") << sjis << text << text << sjis;
         QTest::newRow("missing: the default")

@@ -3,6 +3,7 @@
 // each row, the fixed sound recorder, and the record written at the end.
 #include "platform/Colors.h"
 #include "platform/Controls.h"
+#include "platform/DialogFilter.h"
 #include "settings/FormSetAccessDirectry.h"
 #include "state/DirecData.h"
 #include "support/BasicsFixture.h"
@@ -115,7 +116,11 @@ private Q_SLOTS:
     {
         Machine m({"gedit", "vlc", "audacity", "gimp"}); // no browser, no xdg-open
         m.form.showForm();
-        QCOMPARE(m.box("TextIE")->text(), z("xdg-open"));
+        // The row keeps its design text; the search's path waits in the record.
+        const QString design =
+            QStringLiteral("インターネットのデータ表示用ビューワ (Iexplore.exe等)");
+        QCOMPARE(m.box("TextIE")->text(), design);
+        QCOMPARE(paths(m.f.state.DirecData)[4], z("xdg-open"));
         QList<qint32> colors(6, kBlue);
         colors[4] = kColorRed;
         QCOMPARE(m.boxColors(), colors);
@@ -125,7 +130,7 @@ private Q_SLOTS:
 
         // Cancel changes nothing, the current folder included.
         m.choose(4, std::nullopt);
-        QCOMPARE(m.box("TextIE")->text(), z("xdg-open"));
+        QCOMPARE(m.box("TextIE")->text(), design);
         QVERIFY(!m.exitButton()->isEnabled());
         QCOMPARE(m.f.home.fs.curDir(), QStringLiteral("C:\\"));
 
@@ -191,6 +196,12 @@ private Q_SLOTS:
         QCOMPARE(m.box(row)->text(), program);
         QCOMPARE(paths(m.f.state.DirecData)[row], program);
         QCOMPARE(m.f.ui.dialogFilters, QStringList(2, FETCH(QString, filter)));
+        // The dialog given that filter lists the programs and no text, named
+        // as they may be.
+        const DialogFilter given = dialogFilters(m.f.ui.dialogFilters.last()).first();
+        QVERIFY(dialogFilterMatches(given, QStringLiteral("/usr/bin/xdg-open")));
+        QVERIFY(dialogFilterMatches(given, m.tool(QStringLiteral("apps/PAINT.EXE"), true)));
+        QVERIFY(!dialogFilterMatches(given, m.tool(QStringLiteral("docs/paint.exe"), false)));
     }
 
     void closing_data()
@@ -240,7 +251,15 @@ private Q_SLOTS:
         QCOMPARE(paths(r), (QStringList{z("gedit"), z("gedit"), "C:\\apps\\player", z("audacity"),
                                         z("firefox-esr"), "C:\\apps\\paint", "C:\\apps\\player",
                                         z("view3dscene"), z("f3d")}));
-        QVERIFY(r == m.f.state.DirecData);
+        // The written defaults, field by field as the record lays them out
+        // from byte 900: 15 bytes each, blank-padded, then AutoPageInterval.
+        const QByteArray bytes = m.f.home.readFile("Lumentas/ForProgramRun_KDR/DirecData.ran");
+        const QList<QByteArray> fields{
+            "MS UI Gothic", "9", "&H00FF8080&", "0", "MS UI Gothic", "9", "8421440", "0",
+            "MS UI Gothic", "9", "16041559",    "0", "12632256"};
+        for (qsizetype i = 0; i < fields.size(); ++i)
+            QCOMPARE(bytes.mid(900 + 15 * i, 15), fields[i].leftJustified(15, ' '));
+        QCOMPARE(bytes.mid(1095, 2), QByteArray("\x03\x00", 2));
     }
 };
 

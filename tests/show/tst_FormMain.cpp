@@ -12,6 +12,7 @@
 #include "platform/Colors.h"
 #include "platform/Controls.h"
 #include "platform/FormRegistry.h"
+#include "platform/Twips.h"
 #include "show/FormMain.h"
 #include "support/BasicsFixture.h"
 #include "support/Fetch.h"
@@ -77,6 +78,9 @@ private Q_SLOTS:
     void layoutKeepsItsMinimumAndFramePlaces();
     void openList_data();
     void openList();
+    void listViewStandsBesideItsButton();
+    void stopDuringALoad_data();
+    void stopDuringALoad();
     void cleareDisp_data();
     void cleareDisp();
     void openingAList_data();
@@ -95,6 +99,8 @@ private Q_SLOTS:
     void eachLineOnItsSurface();
     void arrowsStopAtTheEnds();
     void pageBarShowsPicturesOnly();
+    void forcedKindsActInAnyCase_data();
+    void forcedKindsActInAnyCase();
     void copyNumbersTheCopies();
     void deleteRecoverAndRefuse();
 };
@@ -175,6 +181,64 @@ void TestFormMain::openList()
     QCOMPARE(f.state.ListArray.at(kColDelay, pages), QString::number(pages));
     QCOMPARE(f.host.stopEvents.last(), u"unload"_s); // taken down at the end
     QCOMPARE(f.main.windowTitle(), QString());       // the page is shown
+}
+
+void TestFormMain::listViewStandsBesideItsButton()
+{
+    MainFixture f;
+    f.home.writeFile(u"show.lst"_s, "\tC:\\a.jpg  \r\n  C:\\b.jpg\u3000\r\n"_ba);
+    f.main.showForm();
+    QString seen;
+    QRect text, button;
+    f.clock.onWait = [&](qint64 length) {
+        if (length != 1000 || !seen.isEmpty())
+            return;
+        seen = f.main.Text1->toPlainText();
+        text = f.main.Text1->geometry();
+        button = f.main.CommandNoText->geometry();
+        QTest::mouseClick(f.main.CommandNoText, Qt::LeftButton);
+    };
+    f.main.OpenFileList(u"C:\\show.lst"_s);
+    // Blanks trimmed, nothing else: the tab and the ideographic space stay.
+    QCOMPARE(seen, u"\tC:\\a.jpg\nC:\\b.jpg\u3000"_s);
+    // The button 100 twips beside the text, inside the display area.
+    QCOMPARE(button.left() - (text.right() + 1), twipsToPixels(100));
+    QVERIFY(!text.intersects(button));
+    QVERIFY(QRect(QPoint(0, 0), f.main.Picture1->size()).contains(button));
+}
+
+void TestFormMain::stopDuringALoad_data()
+{
+    QTest::addColumn<bool>("stopAtLine100"); // Stop pressed as line 100 of the list is read
+    QTest::addColumn<bool>("before");        // Stop was pressed before the load began
+    QTest::addColumn<int>("fileCount");
+    QTest::newRow("at line 100: the rows read") << true << false << 99;
+    QTest::newRow("a stop left from before doesn't count") << false << true << 200;
+}
+
+void TestFormMain::stopDuringALoad()
+{
+    MainFixture f(6);
+    f.main.CheckQuiCkWork->setChecked(true);
+    f.main.showForm();
+    f.main.OpenFileList(u"C:\\show.lst"_s);
+    QCOMPARE(f.main.FileCount, 6);
+    QByteArray lines;
+    for (int i = 1; i <= 200; ++i)
+        lines += "C:\\q" + QByteArray::number(i) + ".jpg\r\n";
+    f.home.writeFile(u"long.lst"_s, lines);
+    f.host.stopEvents.clear();
+    const bool stopAt100 = FETCH(bool, stopAtLine100);
+    f.clock.onDoEvents = [&] {
+        if (stopAt100 && f.state.ListArray.at(kColMain, 99) == u"C:\\q99.jpg"_s)
+            f.state.StopRequested = true;
+    };
+    f.state.StopRequested = FETCH(bool, before);
+    f.main.OpenFileList(u"C:\\long.lst"_s);
+    QCOMPARE(f.main.FileCount, FETCH(int, fileCount));
+    // Stopped, the load leaves FormStop up and the page as it was.
+    QCOMPARE(f.host.stopEvents.last(), stopAt100 ? u"show"_s : u"unload"_s);
+    QCOMPARE(f.main.TextTotal->text(), stopAt100 ? u"6"_s : u"200"_s);
 }
 
 void TestFormMain::cleareDisp_data()
@@ -570,6 +634,37 @@ void TestFormMain::pageBarShowsPicturesOnly()
     QCOMPARE(f.main.TextFileName->text(), u"C:\\a.png"_s);
     QCOMPARE(f.main.Picture2->pictureSize(), QSize(30, 30));
     QVERIFY(f.main.ScrollGuard);
+}
+
+void TestFormMain::forcedKindsActInAnyCase_data()
+{
+    // The kind a line of SendToList.txt forces on the page's file, and what a
+    // new size of the window does with the page.
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<bool>("pictureRedone");
+    QTest::addColumn<bool>("textOverTheArea");
+    QTest::newRow("none: the picture is redone") << QString() << true << false;
+    QTest::newRow("SHOW_NON: nothing") << "SHOW_NON" << false << false;
+    QTest::newRow("show_non: nothing") << "show_non" << false << false;
+    QTest::newRow("Show_Text: the text pane") << "Show_Text" << false << true;
+}
+
+void TestFormMain::forcedKindsActInAnyCase()
+{
+    MainFixture f;
+    QFETCH(QString, kind);
+    if (!kind.isEmpty())
+        f.home.writeFile("Lumentas/ForProgramRun_KDR/SendToList.txt",
+                         (kind + u",AUTO_START,FORCED\r\n"_s).toUtf8());
+    f.main.CheckAuto_With();
+    f.open({f.home.picture("forced.png", 30, 30)});
+    QVERIFY(f.main.Picture2->isVisible());
+    f.main.Picture2->hide();
+    f.main.Text1->setGeometry(0, 0, 10, 10);
+    f.main.resize(f.main.size() + QSize(60, 40));
+    f.main.Form_Resize();
+    QCOMPARE(f.main.Picture2->isVisible(), FETCH(bool, pictureRedone));
+    QCOMPARE(f.main.Text1->size() == f.main.Picture1->size(), FETCH(bool, textOverTheArea));
 }
 
 void TestFormMain::copyNumbersTheCopies()

@@ -20,15 +20,20 @@
 #include "support/FakeMedia.h"
 #include "support/Fakes.h"
 #include "support/Fetch.h"
+#include "support/SendToListText.h"
 #include "support/Shots.h"
 #include "support/TestHome.h"
 
+#include "platform/ClickLabel.h"
+
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -57,6 +62,14 @@ private Q_SLOTS:
     void autoPage();
     void autoPageStops_data();
     void autoPageStops();
+    void navigatorKeepsThePageOfANewList();
+    void keysPageTheShow_data();
+    void keysPageTheShow();
+    void keysStayWithATextField();
+    void closingTheNavigatorEndsWholeScreen();
+    void commentWindowOpensOverTheDisplayArea();
+    void labelCommentCarriesTheCommentAndIsDragged();
+    void frame1HintOnEveryOtherMove();
 };
 
 void TestFormMainStart::firstStartShowsOnlyTheAccessWindow()
@@ -92,7 +105,7 @@ void TestFormMainStart::settingsFiles()
     QCOMPARE(a.settings("AccessLockDir.dat"), QByteArray("C:\\Lumentas\r\n1\r\n"));
     QCOMPARE(a.app->state().DirectryLock, 0); // the box stays as designed on the default path
     QCOMPARE(a.settings("SendToList.txt"),
-             text::encodeForFile(defaultSendToListLines().join("\r\n") + "\r\n"));
+             text::encodeForFile(expectedSendToListLines().join("\r\n") + "\r\n"));
 
     App b;
     b.home.writeFile("Lumentas/ForProgramRun_KDR/PictureSizeAllowVal.dat", "35\r\n");
@@ -149,7 +162,7 @@ void TestFormMainStart::wholeScreenAndBack_data()
     QTest::addColumn<QRect>("result"); // in twips
     QTest::newRow("back where it was") << QRect() << QRect();
     QTest::newRow("a small one snaps to 12000 by 8500")
-        << QRect(600, 300, 9000, 6000) << QRect(600, 300, 12000, 8500);
+        << QRect(0, 300, 9000, 6000) << QRect(0, 300, 12000, 8500);
     QTest::newRow("a left beyond the screen comes back to 0")
         << QRect(20000, 300, 12000, 8500) << QRect(0, 300, 12000, 8500);
 }
@@ -409,6 +422,229 @@ void TestFormMainStart::autoPageStops()
     QVERIFY(option->StopPressed);
     QVERIFY(option->isVisible());
     saveShot(option, u"FormOption"_s);
+}
+
+void TestFormMainStart::navigatorKeepsThePageOfANewList()
+{
+    App a;
+    QStringList six;
+    for (int n = 1; n <= 6; ++n)
+        six << a.home.picture(u"a%1.png"_s.arg(n));
+    a.openList(six);
+    FormMain& main = a.main();
+    main.CommandFull->click();
+    auto* navigator = a.form<FormRightLeftNorm>("FormRightLeftNorm");
+    navigator->CommandRight->click(); // the navigator's bar moves within the first list
+    main.FORMNORMALSIZE();
+
+    QStringList thirty;
+    for (int n = 1; n <= 30; ++n)
+        thirty << a.home.picture(u"b%1.png"_s.arg(n));
+    a.home.writeFile(u"thirty.lst"_s, thirty.join(u"\r\n"_s).toUtf8());
+    main.OpenFileList(u"C:\\thirty.lst"_s);
+    main.HScrollPicNom->setValue(19);
+    QCOMPARE(a.app->state().PicNo, qint16(19));
+    main.CommandFull->click();
+    QCOMPARE(a.app->state().PicNo, qint16(19));
+    QCOMPARE(main.TextCount->text(), u"19"_s);
+    QCOMPARE(navigator->HScroll1->value(), 19);
+    QCOMPARE(navigator->HScroll1->maximum(), 30);
+    QCOMPARE(navigator->windowTitle(), u"メインビュウワ(19/30)"_s);
+}
+
+namespace {
+
+// Five pictures, the show on page 3, in the normal window or on the whole
+// screen; the window that has the keys.
+QWidget* showOnPageThree(App& a, bool wholeScreen)
+{
+    QStringList five;
+    for (int n = 1; n <= 5; ++n)
+        five << a.home.picture(u"p%1.png"_s.arg(n));
+    a.openList(five);
+    FormMain& main = a.main();
+    main.CommandRight_Click();
+    main.CommandRight_Click();
+    QWidget* window = &main;
+    if (wholeScreen) {
+        main.CommandFull->click();
+        window = a.form<FormRightLeftNorm>("FormRightLeftNorm");
+    }
+    window->activateWindow();
+    return QTest::qWaitForWindowActive(window) ? window : nullptr;
+}
+
+} // namespace
+
+void TestFormMainStart::keysPageTheShow_data()
+{
+    QTest::addColumn<bool>("wholeScreen"); // keys to the navigator then
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("page");
+    QTest::addColumn<bool>("normalAfterwards");
+    for (bool whole : {false, true}) {
+        const char* mode = whole ? "whole screen" : "normal";
+        QTest::addRow("%s: Right", mode) << whole << int(Qt::Key_Right) << 4 << !whole;
+        QTest::addRow("%s: Space", mode) << whole << int(Qt::Key_Space) << 4 << !whole;
+        QTest::addRow("%s: Page Down", mode) << whole << int(Qt::Key_PageDown) << 4 << !whole;
+        QTest::addRow("%s: Left", mode) << whole << int(Qt::Key_Left) << 2 << !whole;
+        QTest::addRow("%s: Page Up", mode) << whole << int(Qt::Key_PageUp) << 2 << !whole;
+        QTest::addRow("%s: Home", mode) << whole << int(Qt::Key_Home) << 1 << !whole;
+        QTest::addRow("%s: End", mode) << whole << int(Qt::Key_End) << 5 << !whole;
+        QTest::addRow("%s: Escape", mode) << whole << int(Qt::Key_Escape) << 3 << true;
+    }
+}
+
+void TestFormMainStart::keysPageTheShow()
+{
+    App a;
+    QWidget* window = showOnPageThree(a, FETCH(bool, wholeScreen));
+    QVERIFY(window);
+    QTest::keyClick(window, Qt::Key(FETCH(int, key)));
+    FormMain& main = a.main();
+    QCOMPARE(int(a.app->state().PicNo), FETCH(int, page));
+    QCOMPARE(main.TextCount->text(), QString::number(FETCH(int, page)));
+    QCOMPARE(main.Frame1->isVisible(), FETCH(bool, normalAfterwards));
+    QCOMPARE(a.shown("FormRightLeftNorm"), !FETCH(bool, normalAfterwards));
+    if (!FETCH(bool, normalAfterwards)) // the navigator's bar follows the page
+        QCOMPARE(a.form<FormRightLeftNorm>("FormRightLeftNorm")->HScroll1->value(),
+                 FETCH(int, page));
+}
+
+void TestFormMainStart::keysStayWithATextField()
+{
+    App a;
+    QVERIFY(showOnPageThree(a, false));
+    QLineEdit* count = a.main().TextCount;
+    count->setFocus();
+    QTest::keyClick(count, Qt::Key_Home);
+    QTest::keyClick(count, Qt::Key_Right);
+    QTest::keyClick(count, Qt::Key_Space);
+    QTest::keyClick(count, Qt::Key_Left);
+    QTest::keyClick(count, Qt::Key_End);
+    QCOMPARE(count->text(), u"3 "_s); // typed, the cursor moved, no page turned
+    QCOMPARE(count->cursorPosition(), 2);
+    QCOMPARE(a.app->state().PicNo, qint16(3));
+}
+
+void TestFormMainStart::closingTheNavigatorEndsWholeScreen()
+{
+    App a;
+    QVERIFY(showOnPageThree(a, true));
+    auto* navigator = a.form<FormRightLeftNorm>("FormRightLeftNorm");
+    navigator->close(); // by its frame
+    QVERIFY(a.main().Frame1->isVisible());
+    QVERIFY(!navigator->isVisible());
+    QVERIFY(a.main().FormBase::isVisible());
+    // In the normal window a close of the (hidden) navigator changes nothing.
+    navigator->close();
+    QVERIFY(a.main().Frame1->isVisible());
+}
+
+void TestFormMainStart::commentWindowOpensOverTheDisplayArea()
+{
+    App a;
+    const QString comment = u" @COMMENT=<<<<<a note ENDCOMMENT"_s;
+    a.openList({a.home.picture("p1.png") + comment, a.home.picture("p2.png") + comment,
+                a.home.picture("p3.png"), a.home.picture("p4.png") + comment});
+    FormMain& main = a.main();
+    auto* window = a.form<FormComment>("FormComment");
+    QVERIFY(window->isVisible());
+    const QRect area(main.Picture1->mapToGlobal(QPoint(0, 0)), main.Picture1->size());
+    const QRect first = frameRect(window);
+    QVERIFY2(area.contains(first), qPrintable(u"%1 %2"_s.arg(first.x()).arg(first.y())));
+    QVERIFY(qAbs(first.center().x() - area.center().x()) <= 1); // the middle
+    QVERIFY(first.top() > area.center().y());                   // the lower half
+
+    // Dragged, it stays there on the next comment page.
+    twMove(window, twLeft(window) - 600, twTop(window) - 900);
+    const QPoint dragged = frameRect(window).topLeft();
+    main.CommandRight_Click();
+    QVERIFY(window->isVisible());
+    QCOMPARE(frameRect(window).topLeft(), dragged);
+    // A page without a comment unloads it; the next one places it anew.
+    main.CommandRight_Click();
+    QVERIFY(!window->isVisible());
+    main.CommandRight_Click();
+    QVERIFY(window->isVisible());
+    QCOMPARE(frameRect(window).topLeft(), first.topLeft());
+}
+
+void TestFormMainStart::labelCommentCarriesTheCommentAndIsDragged()
+{
+    App a;
+    a.home.writeFile("Lumentas/ForProgramRun_KDR/COMMENTSET2.DAT", "IPAGothic,20,&HFF,0\r\n");
+    a.openList({a.home.picture("p1.png") + " @COMMENT=<<<<<first note ENDCOMMENT",
+                a.home.picture("p2.png"),
+                a.home.picture("p3.png") +
+                    " @COMMENT=<<<<<third note ENDCOMMENT @OPTION=COMMENTSET2 ENDOPTION"});
+    FormMain& main = a.main();
+    ClickLabel* label = main.LabelComment;
+    QCOMPARE(label->text(), u"first note"_s);
+    QVERIFY(!label->isVisible()); // the floating window shows the comment
+    main.CommandRight_Click();
+    QCOMPARE(label->text(), QString());
+    main.CommandRight_Click();
+    QCOMPARE(label->text(), u"third note"_s);
+    QCOMPARE(label->font().pointSize(), 20); // the set of the page's option word
+    QCOMPARE(bgrToHexText(backColor(label)), u"&H000000FF&"_s);
+
+    // Shown for the picture work, it is dragged by the left button.
+    main.setCommentVisible(true);
+    QVERIFY(label->isVisible());
+    twMove(label, 1500, 1500);
+    QTest::mousePress(label, Qt::LeftButton, {}, QPoint(10, 5));
+    QMouseEvent move(QEvent::MouseMove, QPointF(30, 35), label->mapToGlobal(QPointF(30, 35)),
+                     Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(label, &move);
+    QCOMPARE(QPointF(twLeft(label), twTop(label)), QPointF(1500 + 300, 1500 + 450));
+    QCOMPARE(main.LabelDragX, qint16(150));
+    QCOMPARE(main.LabelDragY, qint16(75));
+    // Without the button nothing moves.
+    QMouseEvent hover(QEvent::MouseMove, QPointF(60, 60), label->mapToGlobal(QPointF(60, 60)),
+                      Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(label, &hover);
+    QCOMPARE(QPointF(twLeft(label), twTop(label)), QPointF(1800, 1950));
+}
+
+// The interval's hint comes with the mouse moves over Frame1, on every
+// second one; Auto Page started while it shows takes it away.
+void TestFormMainStart::frame1HintOnEveryOtherMove()
+{
+    App a;
+    a.openList({a.home.picture(u"p1.png"_s), a.home.picture(u"p2.png"_s)});
+    auto* option = a.form<FormOption>("FormOption");
+    option->showForm();
+    const auto move = [&](int x) {
+        QMouseEvent event(QEvent::MouseMove, QPointF(x, 8),
+                          option->Frame1->mapToGlobal(QPointF(x, 8)), Qt::NoButton, Qt::NoButton,
+                          Qt::NoModifier);
+        QApplication::sendEvent(option->Frame1, &event);
+    };
+    for (int x = 5; x < 9; ++x)
+        move(x);
+    QCOMPARE(a.ui.messages.size(), 2);
+    for (const auto& message : std::as_const(a.ui.messages))
+        QCOMPARE(message.text, u" 0.0～0.9秒はｷｰｲﾝ入力できます "_s);
+    QVERIFY(!a.ui.messageShown); // each for its second
+
+    // Start pressed while the next hint is on the screen.
+    QList<bool> shownDuringTheShow;
+    bool started = false;
+    a.clock.onWait = [&](qint64 ms) {
+        if (!started && ms == 1000 && a.ui.messageShown) {
+            started = true;
+            option->CommandStart->click();
+        } else if (started && a.app->state().AutoPageOn) {
+            shownDuringTheShow << a.ui.messageShown;
+            move(20); // moves during the show bring no hint
+        }
+    };
+    move(9);
+    QVERIFY(started);
+    QVERIFY(!shownDuringTheShow.isEmpty());
+    QVERIFY(!shownDuringTheShow.contains(true));
+    QCOMPARE(a.ui.messages.size(), 3);
 }
 
 QTEST_MAIN(TestFormMainStart)

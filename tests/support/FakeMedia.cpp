@@ -34,6 +34,12 @@ void FakeEngine::stop()
     playing_ = false;
 }
 
+void FakeEngine::pause()
+{
+    calls << QStringLiteral("pause");
+    playing_ = false;
+}
+
 void FakeEngine::setFullScreen(bool on)
 {
     calls << (on ? QStringLiteral("fullscreen on") : QStringLiteral("fullscreen off"));

@@ -17,13 +17,18 @@ public:
     explicit FakeEngine(bool video);
     ~FakeEngine() override;
 
-    QStringList calls; // "open <path>", "play", "stop", "fullscreen on"
+    QStringList calls; // "open <path>", "play", "pause", "stop", "fullscreen on"
     QSize size;        // the video size it reports after open
     bool autoStart = true;
+    qint64 at = 0;     // the position it reports, in milliseconds
+    qint64 length = 0; // the duration it reports
 
     void open(const QString& nativePath) override;
     void play() override;
     void stop() override;
+    void pause() override;
+    qint64 position() const override { return at; }
+    qint64 duration() const override { return length; }
     void setAutoStart(bool on) override { autoStart = on; }
     QString fileName() const override { return file_; }
     QSize videoSize() const override { return file_.isEmpty() ? QSize() : size; }

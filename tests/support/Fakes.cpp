@@ -39,6 +39,12 @@ void FakeDialogs::msgBox(const QString& text)
         onBox(text);
 }
 
+void FakeDialogs::msgBoxExclamation(const QString& text)
+{
+    exclamations.append(text);
+    msgBox(text);
+}
+
 int FakeDialogs::askYesNo(const QString& text)
 {
     boxes.append(text);

@@ -50,6 +50,8 @@ public:
     std::function<void(const QString&)> onBox; // runs when a box shows
 
     void msgBox(const QString& text) override;
+    void msgBoxExclamation(const QString& text) override;
+    QStringList exclamations; // texts of the boxes with the exclamation mark (also in boxes)
     int askYesNo(const QString& text) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& title,
                                     const QString& defaultText) override;
