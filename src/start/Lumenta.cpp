@@ -149,6 +149,7 @@ void Lumenta::registerForms()
     registerAutoPageForms();
     registerPictureForms();
     registerSelectForms();
+    registerEditorForms();
     forms_.add(QStringLiteral("FormLumentaExit"), [this]() -> FormBase* {
         auto* exit = new FormLumentaExit(basics_, formMain());
         exit->unloadAllForms = [this] { UnloadAllForms(); };

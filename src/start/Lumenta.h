@@ -16,8 +16,10 @@
 
 namespace lumen {
 
+class FormEditText;
 class FormMain;
 class FormSelectFile;
+struct FormSelectFileLinks;
 class FormStop;
 class ModuleStartWithFile;
 
@@ -56,6 +58,9 @@ private:
     void wirePictureLinks(FormMain& main);
     void registerSelectForms();   // LumentaSelectForms.cpp
     FormSelectFile& selectFile(); // made and loaded
+    void registerEditorForms();   // LumentaEditorForms.cpp
+    void wireEditorLinks(FormSelectFileLinks& links);
+    FormEditText& editText(); // made, not necessarily loaded
     void wireDropOnOpenFileList(FormMain& main);
     QList<QWidget*> selectEditTextControls(); // the selection's boxes, once it is made
     SetTargets setTargets();

@@ -64,6 +64,7 @@ void Lumenta::registerSelectForms()
                 edit2->raise();
             };
         }
+        wireEditorLinks(links);
         select->linksChanged();
         host_.fileControlRefreshers.append([this] {
             if (auto* made = static_cast<FormSelectFile*>(forms_.existing(kFormSelectFile));
