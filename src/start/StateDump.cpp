@@ -105,6 +105,9 @@ QString StateDump::text() const
     lines << QStringLiteral("PicNo=") + QString::number(app_.state().PicNo);
     lines << QStringLiteral("ListReady=") + (app_.state().ListReady ? "True" : "False");
     lines << QStringLiteral("AutoPageOn=") + (app_.state().AutoPageOn ? "True" : "False");
+    // The delay of the page on show, as the list gives it.
+    lines << QStringLiteral("PageDelay=") +
+                 app_.state().ListArray.at(kColDelay, app_.state().PicNo);
     lines << QStringLiteral("EditorOn=") + (app_.state().EditorOn ? "True" : "False");
     lines << QStringLiteral("EditRow=") + QString::number(app_.state().EditRow);
     for (QWidget* window : QApplication::topLevelWidgets()) {

@@ -32,6 +32,7 @@ await '^TextFileName=.*\\sunrise\.png' || fail "the demo list didn't open"
 key Escape # the half-minute view of the list ends
 gone '^Shown=FormStop' || fail "the list view didn't end"
 
+click FormMain.CheckQuiCkWork # a list opens without its half-minute view
 click FormMain.CommandSelectFile
 await '^Shown=FormSelectFile' || fail "the selection window didn't open"
 click FormSelectFile.CommandOpenf # the real open dialog
@@ -65,19 +66,24 @@ click FormSelectFile.CommandSaveFile # the real save dialog
 sleep 1.5
 xdotool type --delay 20 "$home/edited.lst"
 xdotool key Return
+for _ in $(seq 1 80); do # written after the text is standard again and a pause
+  [ -f "$home/edited.lst" ] && break
+  sleep 0.1
+done
+[ -f "$home/edited.lst" ] || fail "the list wasn't saved"
 await '^EditorOn=False' || fail "saving didn't turn the editor text back"
-await '^TextFileName=.*\\sunrise\.png' || fail "the saved list didn't open as the show"
+await '^PageDelay=1[[:space:]]*$' || fail "the show didn't open the saved list"
+await '^TextFileName=.*\\sunrise\.png' || fail "the show isn't on the first page"
 await '^ListReady=True' || fail "the show isn't ready"
-line=$(head -n 1 "$home/edited.lst" | tr -d '\r')
+line=$(head -n 1 "$home/edited.lst" | iconv -f CP932 -t UTF-8 | tr -d '\r') # written in CP932
 case "$line" in
   *'sunrise.png @DELAY=1 ENDDELAY @COMMENT=<<<<<ルメンタへようこそ <<<<<→ で次のページへ '*) ;;
   *) fail "the first row was saved as: $line" ;;
 esac
-grep -q 'mountains.jpg @WITH=.*chime.wav ENDWITH @DELAY=3 ENDDELAY' "$home/edited.lst" ||
+grep -aq 'mountains.jpg @WITH=.*chime.wav ENDWITH @DELAY=3 ENDDELAY' "$home/edited.lst" ||
   fail "the second row changed: $(sed -n 2p "$home/edited.lst")"
-[ "$(grep -c . "$home/edited.lst")" = 6 ] || fail "edited.lst hasn't six rows"
-key Escape
-gone '^Shown=FormStop' || fail "the list view didn't end"
+n=$(grep -ac . "$home/edited.lst")
+[ "$n" = 7 ] || fail "edited.lst has $n lines, not six rows and the closing blank line"
 
 # Auto Page from page 1: the new delay of 1 s, not the interval of 9 s.
 click 'FormMain\.CommandOption'
