@@ -9,17 +9,20 @@
 #include "platform/Colors.h"
 #include "platform/Controls.h"
 #include "platform/TextCodec.h"
+#include "platform/Twips.h"
 #include "show/FormMain.h"
 #include "state/ProgramState.h"
 #include "support/Fetch.h"
 #include "support/Shots.h"
 #include "support/SpecialFiles.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 
@@ -97,10 +100,14 @@ private Q_SLOTS:
     void operations_data();
     void operations();
     void oneStepBack();
+    void allwaysUpdateColours();
+    void fileDialogs();
     void upAndDown_data();
     void upAndDown();
     void escRecallsTheLastComment();
     void englishAndUserWords();
+    void hintsWhileNoItemIsChosen_data();
+    void hintsWhileNoItemIsChosen();
     void waysOut_data();
     void waysOut();
     void savedThroughTheSelection();
@@ -267,6 +274,38 @@ void TestFormEditText::oneStepBack()
     QCOMPARE(a.control<QLabel>("LabelNom")->text(), u"5"_s);
 }
 
+void TestFormEditText::allwaysUpdateColours()
+{
+    EditorApp a;
+    auto* check = a.control<QCheckBox>("CheckAllwaysUpdate");
+    auto* frame = a.control<QFrame>("ShapeAllwaysUpdate");
+    QCOMPARE(backColor(check), kColorYellow); // unticked at first
+    QCOMPARE(foreColor(frame), kColorYellow);
+    check->click();
+    QCOMPARE(backColor(check), kResting);
+    QCOMPARE(foreColor(frame), kResting);
+    check->click();
+    QCOMPARE(backColor(check), kColorYellow);
+    QCOMPARE(foreColor(frame), kColorYellow);
+}
+
+void TestFormEditText::fileDialogs()
+{
+    EditorApp a;
+    auto* field = a.control<QLineEdit>("TextSubFileName");
+    field->setText(u"C:\\\\snd\\s.wav"_s); // a doubled backslash is collapsed for the dialog
+    a.ui.fileNames.enqueue(std::nullopt);
+    a.press("CommandSab");
+    QCOMPARE(field->text(), u"C:\\\\snd\\s.wav"_s); // cancelled: nothing changes
+    QCOMPARE(a.ui.dialogStarts.last(), a.home.native(u"snd/s.wav"_s));
+    QCOMPARE(a.ui.dialogFilters.last(), u"(*.*)|*.*"_s);
+    a.ui.fileNames.enqueue(a.home.native(u"snd/t.wav"_s));
+    a.press("CommandSab");
+    QCOMPARE(field->text(), u"C:\\snd\\t.wav"_s);
+    // Pressing the button doesn't choose the item.
+    QVERIFY(a.control<QRadioButton>("OptionNone")->isChecked());
+}
+
 void TestFormEditText::upAndDown_data()
 {
     QTest::addColumn<int>("from");
@@ -333,6 +372,67 @@ void TestFormEditText::englishAndUserWords()
     english->click();
     QCOMPARE(a.record(4), u"C:\\pics\\d.png @OPTION=STOPSOUND ENDOPTION"_s);
     QCOMPARE(combo->itemText(0), u"STOPSOUND"_s);
+}
+
+void TestFormEditText::hintsWhileNoItemIsChosen_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("itemChosen");
+    QTest::addColumn<QString>("text"); // empty: no hint
+    QTest::addColumn<bool>("frames");
+    const QString small = u"実行前に、対象となる項目を選んでください "_s;
+    QTest::newRow("cut") << "CommandCut" << false << small << false;
+    QTest::newRow("copy, placed as cut") << "CommandCopy" << false << small << false;
+    QTest::newRow("paste, placed as cut") << "CommandPast" << false << small << false;
+    QTest::newRow("add, with the frames")
+        << "CommandAdd" << false
+        << u"実行前に、対象となる項目を選んでください\r\n黄色で囲まれたテキストが書き込まれる対象となります"_s
+        << true;
+    QTest::newRow("an item chosen: no hint") << "CommandCut" << true << QString() << false;
+}
+
+void TestFormEditText::hintsWhileNoItemIsChosen()
+{
+    EditorApp a;
+    const QString button = FETCH(QString, button);
+    if (FETCH(bool, itemChosen))
+        a.clickField(a.control<QLineEdit>("TextFileName"));
+    // While the hint shows, the marks stand beside the fields.
+    QStringList during;
+    a.clock.onWait = [&](qint64 ms) {
+        QString seen = QString::number(ms);
+        for (int i = 0; i < 6; ++i)
+            seen +=
+                a.control<QLabel>(qPrintable(u"LabelItem_%1"_s.arg(i)))->isVisible() ? u'L' : u'.';
+        for (int i = 0; i < 2; ++i)
+            seen += a.control<QFrame>(qPrintable(u"Shape1_%1"_s.arg(i)))->isVisible() ? u'F' : u'.';
+        during << seen;
+    };
+    auto* target = a.control<QPushButton>(button.toLatin1().constData());
+    // Mouse moves come in runs: only every other one shows the hint.
+    for (const QPoint at : {QPoint(5, 5), QPoint(6, 5)}) {
+        QMouseEvent move(QEvent::MouseMove, at, target->mapToGlobal(at), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(target, &move);
+    }
+    a.clock.onWait = nullptr;
+    const QString text = FETCH(QString, text);
+    if (text.isEmpty()) {
+        QVERIFY(a.ui.messages.isEmpty());
+        return;
+    }
+    QCOMPARE(a.ui.messages.size(), 1);
+    QCOMPARE(a.ui.messages[0].text, text);
+    QCOMPARE(during, QStringList{FETCH(bool, frames) ? u"1000LLLLLLFF"_s : u"1000LLLLLL.."_s});
+    QVERIFY(!a.ui.messageShown);
+    QVERIFY(!a.control<QLabel>("LabelItem_0")->isVisible());
+    // The three small buttons all measure from CommandCut.
+    if (button != u"CommandAdd") {
+        auto* cut = a.control<QPushButton>("CommandCut");
+        const QPoint at = cut->mapTo(a.editor, QPoint(0, 0));
+        QCOMPARE(a.ui.messages[0].left, int(twLeft(a.editor)) + int(pixelsToTwips(at.x())) - 100);
+        QCOMPARE(a.ui.messages[0].top, int(twTop(a.editor)) + int(pixelsToTwips(at.y())) + 300);
+    }
 }
 
 void TestFormEditText::waysOut_data()
