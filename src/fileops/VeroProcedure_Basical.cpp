@@ -249,13 +249,11 @@ void VeroProcedure_Basical::CopyFileByPair(const QString& pair)
             QString folder = FolderOfPath(to);
             if (!FolderExists(folder))
                 MakeFolderTree(folder);
-            if (FileExists(to)) {
-                fs.clearAttributes(to);
-                fs.deleteFile(to);
-                WaitMilliseconds(100);
-            }
-            fs.copyFile(from, to);
-            WaitForFileReady(to);
+            // An old target is replaced by a complete copy only, never deleted
+            // first; a target that is the source itself is passed over, so the
+            // source survives.
+            if (fs.copyFile(from, to))
+                WaitForFileReady(to);
         }
     }
     RefreshFileControls();

@@ -127,6 +127,17 @@ bool copyBytes(const QString& source, const QString& target)
     return to.commit();
 }
 
+// Two native paths name one file: the same device and inode, links
+// followed. The first is looked at first, so a missing target costs one look.
+bool sameFile(const QString& a, const QString& b)
+{
+    struct stat first {};
+    struct stat second {};
+    return !a.isEmpty() && !b.isEmpty() && ::stat(QFile::encodeName(a).constData(), &first) == 0 &&
+           ::stat(QFile::encodeName(b).constData(), &second) == 0 &&
+           first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
 // The entry of `folder` called `name`, exactly or else ignoring case.
 QString findEntry(const QString& folder, const QString& name)
 {
@@ -612,11 +623,25 @@ bool FileSystem::makeFolder(const QString& programPath)
     return !native.isEmpty() && QDir().mkdir(native);
 }
 
+bool FileSystem::removeFolder(const QString& programPath)
+{
+    const QString native = toNative(programPath);
+    return !native.isEmpty() && !QFileInfo(native).isSymLink() && QDir().rmdir(native);
+}
+
+bool FileSystem::isSameFile(const QString& programPathA, const QString& programPathB) const
+{
+    return sameFile(toNative(programPathA), toNative(programPathB));
+}
+
 bool FileSystem::copyFile(const QString& from, const QString& to)
 {
     const QString source = toNative(from);
     const QString target = toNative(to);
     if (source.isEmpty() || target.isEmpty())
+        return false;
+    // A file is never copied onto itself: the target would be the source.
+    if (sameFile(target, source))
         return false;
     // Staged beside the target, then renamed over it: the target is never
     // half-written. A source that is no regular file fails the copy, and so

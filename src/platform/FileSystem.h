@@ -96,8 +96,16 @@ public:
     };
     FolderListing listFolder(const QString& programFolder, const QStringList& patterns) const;
 
-    bool makeFolder(const QString& programPath);           // one level; false if it exists
-    bool copyFile(const QString& from, const QString& to); // replaces "to"; keeps the mode bits
+    bool makeFolder(const QString& programPath);   // one level; false if it exists
+    bool removeFolder(const QString& programPath); // RmDir: an empty folder only
+    // The two paths name one file (the same device and inode, links
+    // followed): a copy of the one onto the other would copy a file onto
+    // itself. False when either is missing.
+    bool isSameFile(const QString& programPathA, const QString& programPathB) const;
+    // Replaces "to" by a complete copy, staged beside it and renamed over it,
+    // so a copy that fails leaves the old "to" whole; keeps the mode bits.
+    // Fails, touching nothing, when "to" is "from" itself (isSameFile).
+    bool copyFile(const QString& from, const QString& to);
     // Renames or moves; fails if "to" exists, unless only the case of the
     // name changes. A "/" after the last "\" of "to" is refused: the new
     // name would hold a character that the program form can't spell.

@@ -2,14 +2,17 @@
 
 #include "platform/Colors.h"
 #include "platform/FormMessage.h"
+#include "platform/Launcher.h"
 
 #include <QApplication>
 #include <QColorDialog>
 #include <QDateTime>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QSortFilterProxyModel>
 
 namespace lumen {
 
@@ -30,7 +33,70 @@ QString qtFilterFromClassic(const QString& classicFilter)
     return filters.join(QStringLiteral(";;"));
 }
 
+namespace {
+
+// A classic filter for programs ("...(*.exe)|*.exe"): every pattern is
+// "*.exe". On this system programs have no such ending; the dialog lists
+// the files that may be started instead, under the filter's caption.
+bool asksForPrograms(const QString& classicFilter)
+{
+    const QStringList parts = classicFilter.split(QLatin1Char('|'));
+    if (parts.size() < 2)
+        return false;
+    for (qsizetype i = 1; i < parts.size(); i += 2) {
+        if (parts[i].trimmed().compare(QLatin1String("*.exe"), Qt::CaseInsensitive) != 0)
+            return false;
+    }
+    return true;
+}
+
+// Folders, and the files with an execute bit.
+class ProgramFiles : public QSortFilterProxyModel {
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex& parent) const override
+    {
+        const auto* files = qobject_cast<const QFileSystemModel*>(sourceModel());
+        if (!files)
+            return true;
+        const QFileInfo info = files->fileInfo(files->index(row, 0, parent));
+        return info.isDir() || isExecutableFile(info.absoluteFilePath());
+    }
+};
+
+std::optional<QString> openProgramName(QWidget* owner, const QString& title,
+                                       const QString& startPath, const QString& classicFilter)
+{
+    QFileDialog dialog(owner, title);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setProxyModel(new ProgramFiles(&dialog));
+    dialog.setNameFilter(classicFilter.section(QLatin1Char('|'), 0, 0) + QStringLiteral(" (*)"));
+    const QFileInfo start(startPath);
+    dialog.setDirectory(start.isDir() ? startPath : start.path());
+    if (!start.isDir())
+        dialog.selectFile(start.fileName());
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return dialog.selectedFiles().first();
+}
+
+} // namespace
+
 QtUserDialogs::QtUserDialogs() = default;
+
+QWidget* QtUserDialogs::dialogParent() const
+{
+    // A dialog belongs to the window the user works in, so that closing it
+    // gives that window back; notes and pop-ups do not own one.
+    QWidget* active = QApplication::activeWindow();
+    if (active && active->isVisible() &&
+        (active->windowType() == Qt::Window || active->windowType() == Qt::Dialog))
+        return active;
+    return owner_;
+}
 
 QtUserDialogs::~QtUserDialogs()
 {
@@ -39,7 +105,7 @@ QtUserDialogs::~QtUserDialogs()
 
 void QtUserDialogs::msgBox(const QString& text)
 {
-    QMessageBox box(QMessageBox::NoIcon, kDefaultTitle, text, QMessageBox::Ok, owner_);
+    QMessageBox box(QMessageBox::NoIcon, kDefaultTitle, text, QMessageBox::Ok, dialogParent());
     box.setWindowModality(Qt::ApplicationModal);
     box.exec();
 }
@@ -47,7 +113,7 @@ void QtUserDialogs::msgBox(const QString& text)
 int QtUserDialogs::askYesNo(const QString& text)
 {
     QMessageBox box(QMessageBox::Question, kDefaultTitle, text, QMessageBox::Yes | QMessageBox::No,
-                    owner_);
+                    dialogParent());
     box.setWindowModality(Qt::ApplicationModal);
     return box.exec() == QMessageBox::Yes ? kAnswerYes : kAnswerNo;
 }
@@ -56,8 +122,9 @@ std::optional<QString> QtUserDialogs::inputBox(const QString& prompt, const QStr
                                                const QString& defaultText)
 {
     bool ok = false;
-    const QString text = QInputDialog::getText(owner_, title.isEmpty() ? kDefaultTitle : title,
-                                               prompt, QLineEdit::Normal, defaultText, &ok);
+    const QString text =
+        QInputDialog::getText(dialogParent(), title.isEmpty() ? kDefaultTitle : title, prompt,
+                              QLineEdit::Normal, defaultText, &ok);
     if (!ok)
         return std::nullopt;
     return text;
@@ -94,8 +161,10 @@ void QtUserDialogs::hideMessage()
 std::optional<QString> QtUserDialogs::openFileName(const QString& title, const QString& startPath,
                                                    const QString& filter)
 {
+    if (asksForPrograms(filter))
+        return openProgramName(dialogParent(), title, startPath, filter);
     const QString name =
-        QFileDialog::getOpenFileName(owner_, title, startPath, qtFilterFromClassic(filter));
+        QFileDialog::getOpenFileName(dialogParent(), title, startPath, qtFilterFromClassic(filter));
     if (name.isEmpty())
         return std::nullopt;
     return name;
@@ -105,7 +174,7 @@ std::optional<QString> QtUserDialogs::saveFileName(const QString& title, const Q
                                                    const QString& filter)
 {
     const QString name =
-        QFileDialog::getSaveFileName(owner_, title, startPath, qtFilterFromClassic(filter));
+        QFileDialog::getSaveFileName(dialogParent(), title, startPath, qtFilterFromClassic(filter));
     if (name.isEmpty())
         return std::nullopt;
     return name;
@@ -113,12 +182,13 @@ std::optional<QString> QtUserDialogs::saveFileName(const QString& title, const Q
 
 QString QtUserDialogs::browseForFolder(const QString& title, const QString& startPath)
 {
-    return QFileDialog::getExistingDirectory(owner_, title, startPath, QFileDialog::ShowDirsOnly);
+    return QFileDialog::getExistingDirectory(dialogParent(), title, startPath,
+                                             QFileDialog::ShowDirsOnly);
 }
 
 std::optional<qint32> QtUserDialogs::chooseColor(qint32 initialBgr)
 {
-    const QColor chosen = QColorDialog::getColor(colorFromBgr(initialBgr), owner_);
+    const QColor chosen = QColorDialog::getColor(colorFromBgr(initialBgr), dialogParent());
     if (!chosen.isValid())
         return std::nullopt;
     return bgrFromColor(chosen);
@@ -130,7 +200,7 @@ std::optional<FontChoice> QtUserDialogs::chooseFont(const QString& family, doubl
     if (pointSize > 0)
         initial.setPointSizeF(pointSize);
     bool accepted = false;
-    const QFont chosen = QFontDialog::getFont(&accepted, initial, owner_);
+    const QFont chosen = QFontDialog::getFont(&accepted, initial, dialogParent());
     if (!accepted)
         return std::nullopt;
     return FontChoice{chosen.family(), chosen.pointSizeF()};

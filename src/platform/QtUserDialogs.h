@@ -17,7 +17,8 @@ public:
     QtUserDialogs();
     ~QtUserDialogs() override;
 
-    // The window that owns the dialogs (FormMain once it stands).
+    // The window that owns the dialogs when none of the program is active
+    // (FormMain once it stands).
     void setOwner(QWidget* owner) { owner_ = owner; }
 
     void msgBox(const QString& text) override;
@@ -38,6 +39,8 @@ public:
     FormMessage* formMessage();
 
 private:
+    QWidget* dialogParent() const;
+
     QPointer<QWidget> owner_;
     FormMessage* message_ = nullptr;
     qint64 lastBeep_ = -1000;

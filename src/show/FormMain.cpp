@@ -44,6 +44,7 @@ FormMain::FormMain(VeroProcedure_Basical& basics, FormRegistry& forms, QWidget* 
     buildFrame3();
     connectHandlers();
     buildSelectCommands();
+    buildBulkCommands();
 }
 
 void FormMain::buildFrame1()
@@ -123,7 +124,7 @@ void FormMain::buildFrame2()
     CommandFull = commandButton(QStringLiteral("CommandFull"), QStringLiteral("FILL表示"), Frame2);
     CommandOption =
         commandButton(QStringLiteral("CommandOption"), QStringLiteral("自動ﾍﾟｰｼﾞ"), Frame2);
-    CommandEdit = commandButton(QStringLiteral("CommandEdit"), QStringLiteral("ﾘｽﾄ作成"), Frame2);
+    CommandEdit = commandButton(QStringLiteral("CommandEdit"), QStringLiteral("ｴﾃﾞｨﾀｰ"), Frame2);
     CommandWriteCommentOnPic = commandButton(QStringLiteral("CommandWriteCommentOnPic"),
                                              QStringLiteral("画像にｺﾒﾝﾄ貼付け"), Frame2);
     CommandMakeHTML =

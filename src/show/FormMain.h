@@ -89,6 +89,7 @@ public:
     QPushButton* CommandCopy;
     QPushButton* CommandDeleate;
     QPushButton* CommandRecov;
+    QPushButton* CommandFileOption; // FormFileOption
     QGroupBox* FrameTextHide;
     QCheckBox* CheckWaveHide;
     QCheckBox* CheckCommentHide;
@@ -263,6 +264,7 @@ private:
     void buildSelectCommands(); // FormMainSelect.cpp
     void buildFrame2();
     void buildFrame3();
+    void buildBulkCommands(); // FormMainBulk.cpp
     void buildDisplay();
     void connectHandlers();
     void connectPictureWork();

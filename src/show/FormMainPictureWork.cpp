@@ -1,5 +1,6 @@
 // FormMain: the commands of picture work in the top row. They open the
-// windows of picture/ by name; those windows draw on Picture2.
+// windows of picture/ by name; those windows draw on Picture2. CommandEdit
+// opens the entry window beside the show.
 #include "show/FormMain.h"
 
 #include "display/FormComment.h"
@@ -9,6 +10,7 @@
 
 #include <QCheckBox>
 #include <QPushButton>
+#include <QScreen>
 
 namespace lumen {
 
@@ -19,11 +21,6 @@ void FormMain::connectPictureWork()
     connect(CommandWriteCommentOnPic, &QPushButton::clicked, this,
             &FormMain::CommandWriteCommentOnPic_Click);
     connect(CommandEdit, &QPushButton::clicked, this, &FormMain::CommandEdit_Click);
-    // The list is made in the selection window; without it the command waits.
-    if (!forms_.knows(QStringLiteral("FormSelectFile"))) {
-        CommandEdit->setEnabled(false);
-        CommandEdit->setToolTip(QStringLiteral("準備中"));
-    }
 }
 
 void FormMain::CommandModPic_Click()
@@ -57,9 +54,24 @@ void FormMain::CommandWriteCommentOnPic_Click()
     }
 }
 
+// The entry window stands beside the show: right of the main window where
+// the screen has room, else inside its right edge.
 void FormMain::CommandEdit_Click()
 {
-    showWindow(QStringLiteral("FormSelectFile"));
+    FormBase* edit = forms_.form(QStringLiteral("FormEdit"));
+    if (!edit)
+        return;
+    const bool first = !edit->isVisible();
+    edit->showForm();
+    if (!first)
+        return;
+    const QRect me = frameGeometry();
+    const int width = edit->frameGeometry().width();
+    const QScreen* shown = screen();
+    const QRect room = shown ? shown->availableGeometry() : QRect(me.topLeft(), me.size());
+    const int x =
+        me.right() + 1 + width <= room.right() + 1 ? me.right() + 1 : me.right() + 1 - width;
+    edit->move(qMax(room.left(), x), qMax(room.top(), me.top()));
 }
 
 } // namespace lumen

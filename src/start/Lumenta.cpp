@@ -125,6 +125,7 @@ void Lumenta::registerForms()
         main->links.endProgram = [this] { End(); };
         wirePictureLinks(*main);
         wireDropOnOpenFileList(*main);
+        wireEntryLinks(*main);
         return main;
     });
     forms_.add(QStringLiteral("FormHatenaDrive"), [this]() -> FormBase* {
@@ -150,6 +151,9 @@ void Lumenta::registerForms()
     registerPictureForms();
     registerSelectForms();
     registerEditorForms();
+    registerBulkForms();
+    registerBindingForms();
+    registerEntryForms();
     forms_.add(QStringLiteral("FormLumentaExit"), [this]() -> FormBase* {
         auto* exit = new FormLumentaExit(basics_, formMain());
         exit->unloadAllForms = [this] { UnloadAllForms(); };

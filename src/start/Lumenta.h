@@ -17,6 +17,7 @@
 namespace lumen {
 
 class FormEditText;
+class FormEdit2;
 class FormMain;
 class FormSelectFile;
 struct FormSelectFileLinks;
@@ -55,6 +56,11 @@ private:
     void registerShowForms();
     void registerAutoPageForms(); // LumentaShowForms.cpp
     void registerPictureForms();  // LumentaPictureForms.cpp
+    void registerBulkForms();     // LumentaBulkForms.cpp
+    void registerBindingForms();  // LumentaBindingForms.cpp
+    void registerEntryForms();    // LumentaEntryForms.cpp
+    void wireEntryLinks(FormMain& main);
+    FormEdit2& edit2();
     void wirePictureLinks(FormMain& main);
     void registerSelectForms();   // LumentaSelectForms.cpp
     FormSelectFile& selectFile(); // made and loaded

@@ -17,8 +17,10 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScreen>
 #include <QScrollBar>
 
 namespace lumen {
@@ -55,13 +57,18 @@ void Lumenta::registerSelectForms()
                              pixelsToTwips(place.y() + 40));
         };
         if (forms_.knows(QStringLiteral("FormEdit2"))) {
-            // To the left of the selection window, at its top.
+            // To the left of the selection window, at its top; where the
+            // screen has no room there, at the screen's left edge over it.
             links.showEdit2 = [this](const QPoint& topRight) {
                 FormBase* edit2 = forms_.form(QStringLiteral("FormEdit2"));
                 edit2->load();
-                edit2->move(topRight.x() - edit2->frameGeometry().width(), topRight.y());
+                int x = topRight.x() - edit2->frameGeometry().width();
+                if (const QScreen* screen = QGuiApplication::primaryScreen())
+                    x = std::max(x, screen->availableGeometry().left());
+                edit2->move(x, topRight.y());
                 edit2->show();
                 edit2->raise();
+                edit2->activateWindow();
             };
         }
         wireEditorLinks(links);

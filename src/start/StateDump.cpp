@@ -1,6 +1,7 @@
 #include "start/StateDump.h"
 
 #include "display/PictureBox.h"
+#include "fileops/FormFileOption.h"
 #include "platform/FileSystem.h"
 #include "platform/SafeFile.h"
 #include "select/RichTextBox.h"
@@ -63,6 +64,11 @@ void text1Lines(const QWidget* window, QStringList& lines)
                      .arg(centre.y());
     }
 }
+
+// The controls of bulk work and the bindings that whole-program tests press.
+constexpr const char* kBulkControls[] = {
+    "CommandFileOption", "OptionAutoRename", "TextNom",     "TextDirectry",  "CommandMakeDirectry",
+    "CommandDo",         "CommandOK",        "CommandSkip", "CommandEditor", "CommandEdit"};
 
 void onSignal(int)
 {
@@ -141,6 +147,14 @@ QString StateDump::text() const
             clickable(name);
         if (window->objectName() == QLatin1String("FormSelectFile"))
             text1Lines(window, lines);
+        for (const char* name : kBulkControls)
+            clickable(name);
+    }
+    // The row of the list that bulk work has in hand, 0 when it has none.
+    if (auto* bulk =
+            static_cast<FormFileOption*>(app_.forms().existing(QStringLiteral("FormFileOption")))) {
+        const BulkWalk& walk = bulk->walk();
+        lines << QStringLiteral("FileOptionRow=%1").arg(walk.running() ? walk.row() : 0);
     }
     // Where the picture on show lies on the screen, for pointing at its pixels.
     if (main.Picture2->isVisible()) {

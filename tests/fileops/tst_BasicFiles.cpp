@@ -3,11 +3,14 @@
 #include "support/BasicsFixture.h"
 
 #include "support/Fetch.h"
+#include "support/FileSizeLimit.h"
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QRegularExpression>
+
+#include <optional>
 
 #include <QTest>
 
@@ -37,6 +40,8 @@ private Q_SLOTS:
     void exists();
     void transfer_data();
     void transfer();
+    void copyKeepsWhatItWasNotAskedToReplace_data();
+    void copyKeepsWhatItWasNotAskedToReplace();
     void copyAutoByDate();
     void makeFolderTreeChangesFolder();
     void deleteFileForced();
@@ -124,6 +129,40 @@ void TestBasicFiles::transfer()
     QCOMPARE(f.host.captions, FETCH(QStringList, captions));
     QCOMPARE(f.host.refreshes, 1);
     QCOMPARE(f.clock.waits, FETCH(QList<qint64>, waits));
+}
+
+void TestBasicFiles::copyKeepsWhatItWasNotAskedToReplace_data()
+{
+    QTest::addColumn<QString>("to");
+    QTest::addColumn<bool>("diskFull");
+    QTest::addColumn<QByteArray>("target"); // the bytes of old.jpg afterwards
+    // The source a.jpg holds 4000 "n"; old.jpg held 10 "o" before.
+    const QByteArray source(4000, 'n');
+    const QByteArray old(10, 'o');
+    QTest::newRow("onto itself, as written") << "C:\\pics\\a.jpg" << false << old;
+    QTest::newRow("onto itself, in capitals") << "C:\\PICS\\A.JPG" << false << old;
+    QTest::newRow("onto itself, through a link") << "C:\\link.jpg" << false << old;
+    QTest::newRow("onto another file: replaced") << "C:\\pics\\old.jpg" << false << source;
+    QTest::newRow("onto another file, disk full: kept") << "C:\\pics\\old.jpg" << true << old;
+}
+
+void TestBasicFiles::copyKeepsWhatItWasNotAskedToReplace()
+{
+    BasicsFixture f;
+    const QByteArray source(4000, 'n');
+    f.home.writeFile("pics/a.jpg", source);
+    f.home.writeFile("pics/old.jpg", QByteArray(10, 'o'));
+    QFile::link(f.home.native("pics/a.jpg"), f.home.native("link.jpg"));
+    {
+        std::optional<FileSizeLimit> full;
+        if (FETCH(bool, diskFull))
+            full.emplace(1000);
+        f.basics.CopyFileByPair("C:\\pics\\a.jpg," + FETCH(QString, to));
+    }
+    QCOMPARE(f.home.readFile("pics/a.jpg"), source);
+    QCOMPARE(f.home.readFile("pics/old.jpg"), FETCH(QByteArray, target));
+    QCOMPARE(QDir(f.home.native("pics")).entryList(QDir::Files | QDir::Hidden),
+             (QStringList{"a.jpg", "old.jpg"})); // nothing staged is left behind
 }
 
 void TestBasicFiles::copyAutoByDate()

@@ -61,74 +61,70 @@ int headerRate(const QByteArray& mp3)
 class TestWavToMp3 : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void converts_data();
-    void converts();
-    void refused_data();
-    void refused();
+    void converts_data()
+    {
+        QTest::addColumn<int>("rate");
+        QTest::addColumn<int>("channels");
+        QTest::addColumn<int>("percent");
+        QTest::addColumn<int>("kbps");
+        // A frame of 56 kbps or less is too small to carry the information frame
+        // that tells the decoder the length, so the decoder gives the codec's
+        // delay (576 + 529 samples) in front of the sound.
+        QTest::addColumn<int>("delay");
+        QTest::newRow("stereo 44.1 kHz at 20 %") << 44100 << 2 << 20 << 32 << 1105;
+        QTest::newRow("mono 22.05 kHz at 100 %") << 22050 << 1 << 100 << 160 << 0;
+        QTest::newRow("stereo 48 kHz at 25 %") << 48000 << 2 << 25 << 40 << 1105;
+    }
+
+    void converts()
+    {
+        BasicsFixture f;
+        const int rate = FETCH(int, rate);
+        writeWav(f.home.native("in.wav"), 3.0, rate, FETCH(int, channels));
+        ConvertWavToMp3(f.basics, "C:\\in.wav", "C:\\site\\media\\in.mp3", 0);
+        // A missing folder isn't made: the output can't be opened.
+        QCOMPARE(f.ui.boxes, QStringList{kMp3SetupMessage});
+        QVERIFY(!f.home.exists("site"));
+        f.ui.boxes.clear();
+        f.home.makeFolder("out");
+        const int before = f.clock.doEventsCount;
+        ConvertWavToMp3(f.basics, "C:\\in.wav", "C:\\out\\in.mp3", qint16(FETCH(int, percent)));
+        QCOMPARE(f.ui.boxes, QStringList());
+        // Events run between frames: 3 s are over a hundred frames of 1152 samples.
+        QVERIFY(f.clock.doEventsCount - before >= 3 * rate / 1152);
+
+        QCOMPARE(headerRate(f.home.readFile("out/in.mp3")), FETCH(int, kbps));
+        const SF_INFO decoded = decode(f.home.native("out/in.mp3"), f.home.native("out/back.wav"));
+        QCOMPARE(decoded.samplerate, 44100);
+        const double expected = 3.0 * 44100 + FETCH(int, delay);
+        QVERIFY2(std::abs(double(decoded.frames) - expected) <= 1152,
+                 qPrintable(QString::number(decoded.frames)));
+    }
+
+    void refused_data()
+    {
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<int>("percent");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("0 %") << "C:\\in.wav" << 0 << kMp3SetupMessage;
+        QTest::newRow("10 %, 16 kbps isn't MPEG-1") << "C:\\in.wav" << 10 << kMp3SetupMessage;
+        QTest::newRow("33 %, 52 kbps isn't MPEG-1") << "C:\\in.wav" << 33 << kMp3SetupMessage;
+        QTest::newRow("a WAV that vanished") << "C:\\gone.wav" << 20 << kMp3InputMessage;
+        QTest::newRow("not a sound") << "C:\\text.wav" << 20 << kMp3SetupMessage;
+    }
+
+    void refused()
+    {
+        BasicsFixture f;
+        writeWav(f.home.native("in.wav"), 0.5, 44100, 2);
+        f.home.writeFile("text.wav", "no sound here");
+        ConvertWavToMp3(f.basics, FETCH(QString, input), "C:\\out.mp3",
+                        qint16(FETCH(int, percent)));
+        QCOMPARE(f.ui.boxes, QStringList{FETCH(QString, message)});
+        QVERIFY(!f.home.exists("out.mp3"));
+        QCOMPARE(QDir(f.home.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+    }
 };
-
-void TestWavToMp3::converts_data()
-{
-    QTest::addColumn<int>("rate");
-    QTest::addColumn<int>("channels");
-    QTest::addColumn<int>("percent");
-    QTest::addColumn<int>("kbps");
-    // A frame of 56 kbps or less is too small to carry the information frame
-    // that tells the decoder the length, so the decoder gives the codec's
-    // delay (576 + 529 samples) in front of the sound.
-    QTest::addColumn<int>("delay");
-    QTest::newRow("stereo 44.1 kHz at 20 %") << 44100 << 2 << 20 << 32 << 1105;
-    QTest::newRow("mono 22.05 kHz at 100 %") << 22050 << 1 << 100 << 160 << 0;
-    QTest::newRow("stereo 48 kHz at 25 %") << 48000 << 2 << 25 << 40 << 1105;
-}
-
-void TestWavToMp3::converts()
-{
-    BasicsFixture f;
-    const int rate = FETCH(int, rate);
-    writeWav(f.home.native("in.wav"), 3.0, rate, FETCH(int, channels));
-    ConvertWavToMp3(f.basics, "C:\\in.wav", "C:\\site\\media\\in.mp3", 0);
-    // A missing folder isn't made: the output can't be opened.
-    QCOMPARE(f.ui.boxes, QStringList{kMp3SetupMessage});
-    QVERIFY(!f.home.exists("site"));
-    f.ui.boxes.clear();
-    f.home.makeFolder("out");
-    const int before = f.clock.doEventsCount;
-    ConvertWavToMp3(f.basics, "C:\\in.wav", "C:\\out\\in.mp3", qint16(FETCH(int, percent)));
-    QCOMPARE(f.ui.boxes, QStringList());
-    // Events run between frames: 3 s are over a hundred frames of 1152 samples.
-    QVERIFY(f.clock.doEventsCount - before >= 3 * rate / 1152);
-
-    QCOMPARE(headerRate(f.home.readFile("out/in.mp3")), FETCH(int, kbps));
-    const SF_INFO decoded = decode(f.home.native("out/in.mp3"), f.home.native("out/back.wav"));
-    QCOMPARE(decoded.samplerate, 44100);
-    const double expected = 3.0 * 44100 + FETCH(int, delay);
-    QVERIFY2(std::abs(double(decoded.frames) - expected) <= 1152,
-             qPrintable(QString::number(decoded.frames)));
-}
-
-void TestWavToMp3::refused_data()
-{
-    QTest::addColumn<QString>("input");
-    QTest::addColumn<int>("percent");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("0 %") << "C:\\in.wav" << 0 << kMp3SetupMessage;
-    QTest::newRow("10 %, 16 kbps isn't MPEG-1") << "C:\\in.wav" << 10 << kMp3SetupMessage;
-    QTest::newRow("33 %, 52 kbps isn't MPEG-1") << "C:\\in.wav" << 33 << kMp3SetupMessage;
-    QTest::newRow("a WAV that vanished") << "C:\\gone.wav" << 20 << kMp3InputMessage;
-    QTest::newRow("not a sound") << "C:\\text.wav" << 20 << kMp3SetupMessage;
-}
-
-void TestWavToMp3::refused()
-{
-    BasicsFixture f;
-    writeWav(f.home.native("in.wav"), 0.5, 44100, 2);
-    f.home.writeFile("text.wav", "no sound here");
-    ConvertWavToMp3(f.basics, FETCH(QString, input), "C:\\out.mp3", qint16(FETCH(int, percent)));
-    QCOMPARE(f.ui.boxes, QStringList{FETCH(QString, message)});
-    QVERIFY(!f.home.exists("out.mp3"));
-    QCOMPARE(QDir(f.home.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
-}
 
 QTEST_GUILESS_MAIN(TestWavToMp3)
 #include "tst_WavToMp3.moc"

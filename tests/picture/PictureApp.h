@@ -1,57 +1,21 @@
-// The program over the fakes, past its first start, with a show of pictures
-// made by the test, opened at original size: the windows of picture work as
-// the program makes and links them, and the mouse on Picture2 in its pixels.
+// The program over the fakes (App), past its first start, with a show of
+// pictures made by the test, opened at original size: the windows of picture
+// work as the program makes and links them, and the mouse on Picture2 in its
+// pixels.
 #pragma once
 
 #include "display/PictureBox.h"
-#include "list/CommandWords.h"
-#include "platform/FormBase.h"
-#include "show/FormMain.h"
-#include "start/Lumenta.h"
-#include "state/DirecData.h"
-#include "support/FakeMedia.h"
-#include "support/Fakes.h"
-#include "support/TestHome.h"
+#include "start/AppFixture.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QImage>
 #include <QMouseEvent>
-
-#include <memory>
+#include <QPainter>
 
 namespace lumen::test {
 
-struct PictureApp {
-    TestHome home;
-    FakeClock clock;
-    FakeDialogs ui;
-    FakeLauncher launcher;
-    FakeMedia media;
-    Services services{clock, ui, launcher, home.fs, media};
-    std::unique_ptr<Lumenta> app;
-
-    PictureApp()
-    {
-        DirecDataRecord record;
-        record.CommentFontName = QStringLiteral("MS UI Gothic");
-        home.makeFolder(QStringLiteral("Lumentas/ForProgramRun_KDR"));
-        writeDirecData(home.native(QStringLiteral("Lumentas/ForProgramRun_KDR/DirecData.ran")),
-                       record);
-        app = std::make_unique<Lumenta>(services, QStringList(),
-                                        home.native(QStringLiteral("bin/lumenta")));
-        app->quit = [] {};
-    }
-    FormMain& main() { return app->formMain(); }
-    template <class T> T& form(const char* name)
-    {
-        return *static_cast<T*>(app->forms().form(QString::fromLatin1(name)));
-    }
-    bool shown(const char* name) const
-    {
-        const FormBase* form = app->forms().existing(QString::fromLatin1(name));
-        return form && form->isVisible();
-    }
+struct PictureApp : App {
+    template <class T> T& form(const char* name) { return *App::form<T>(name); }
 
     // Page i is pics/p<i>.png holding pictures[i - 1]; comments go to the
     // list as @COMMENT items. The list opens at once, at original size.
@@ -117,24 +81,18 @@ struct PictureApp {
     }
 };
 
-// A white picture with a black square outline from (20, 20) to (80, 80).
-inline QImage framedPicture(int width = 200, int height = 150)
-{
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    for (int i = 20; i <= 80; ++i) {
-        image.setPixel(i, 20, qRgb(0, 0, 0));
-        image.setPixel(i, 80, qRgb(0, 0, 0));
-        image.setPixel(20, i, qRgb(0, 0, 0));
-        image.setPixel(80, i, qRgb(0, 0, 0));
-    }
-    return image;
-}
-
 inline QImage plainPicture(QColor colour, int width = 200, int height = 150)
 {
     QImage image(width, height, QImage::Format_RGB32);
     image.fill(colour);
+    return image;
+}
+
+// A white picture with a black square outline from (20, 20) to (80, 80).
+inline QImage framedPicture()
+{
+    QImage image = plainPicture(Qt::white);
+    QPainter(&image).drawRect(20, 20, 60, 60); // a pen of one pixel, black
     return image;
 }
 

@@ -431,7 +431,8 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("replaces, found ignoring case")
             << "C:\\OLD.JPG" << true << "old.jpg" << QByteArray("source");
-        QTest::newRow("onto itself") << "C:\\a.jpg" << true << "a.jpg" << QByteArray("source");
+        QTest::newRow("onto itself: passed over")
+            << "C:\\a.jpg" << false << "a.jpg" << QByteArray("source");
         QTest::newRow("onto a folder") << "C:\\pics" << false << "old.jpg" << QByteArray("old");
     }
     void copyFile()

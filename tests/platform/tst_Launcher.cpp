@@ -98,14 +98,11 @@ private Q_SLOTS:
         QTest::newRow("detached, in the current folder")
             << "C:\\my tool\\MARK C:\\marker.txt a;b C:\\Work\\x.jpg" << true
             << QByteArray("~/work\na;b\n~/work/x.jpg\n");
-        QTest::newRow("file without exec bit")
-            << "C:\\script.sh C:\\marker.txt" << false << QByteArray();
         QTest::newRow("empty") << "" << false << QByteArray();
     }
     void shell()
     {
         makeExecutable("My Tool/mark", kMarkerScript);
-        home_->writeFile("script.sh", kMarkerScript);
         home_->makeFolder("work");
         QVERIFY(home_->fs.chDir("C:\\WORK"));
         ProcessLauncher launcher(home_->fs);

@@ -110,7 +110,6 @@ private Q_SLOTS:
         QTest::newRow("show word in a path, not after it")
             << "C:\\show_non_tools\\x\r\nC:\\Tools\\paint,SHOW_TEXT"
             << QStringList{"C:\\Tools\\paint"};
-        QTest::newRow("Shift-JIS") << "C:\\ツール\\表示" << QStringList{"C:\\ツール\\表示"};
     }
     void fillsComboSend()
     {

@@ -1,16 +1,25 @@
-// The AUTO_START table read from SendToList.txt, and the look-up of a page's
-// main file in it.
+// The settings files and what is read from them: the AUTO_START table of
+// SendToList.txt and the look-up of a page's main file in it; the one line of
+// the font and colour set files, and a reset of the picture's ground that
+// leaves the other fields of the record alone; the helper programs looked for
+// on PATH at the first start, and what stands when none is there.
 #include "platform/TextCodec.h"
 #include "settings/AutoStartTable.h"
+#include "settings/FontColorSets.h"
+#include "settings/ProgramCandidates.h"
 #include "settings/SendToList.h"
 #include "support/BasicsFixture.h"
+#include "support/FakeSystemBin.h"
 #include "support/Fetch.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTest>
 
 using namespace lumen;
 using namespace lumen::test;
+
+Q_DECLARE_METATYPE(lumen::ProgramRole)
 
 namespace {
 
@@ -48,7 +57,7 @@ QStringList numbered(const QString& pattern, int count)
 
 } // namespace
 
-class TestAutoStartTable : public QObject {
+class TestSettingsFiles : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void readsForcingLines_data()
@@ -138,7 +147,97 @@ private Q_SLOTS:
         QTEST(CheckAutoWith(FETCH(QString, fileName), table, forcedShowKind), "application");
         QTEST(forcedShowKind, "application");
     }
+
+    void readingALine_data()
+    {
+        QTest::addColumn<QString>("line");
+        QTest::addColumn<QStringList>("fields");
+        QTest::newRow("blanks around, a field missing")
+            << "  IPAGothic , 20,&HFF" << QStringList{"IPAGothic", "20", "&HFF", ""};
+        QTest::newRow("quoted comma")
+            << "\"Sans, Bold\",9,1,2" << QStringList{"Sans, Bold", "9", "1", "2"};
+        QTest::newRow("fifth field") << "a,b,c,d,e" << QStringList{"a", "b", "c", "d"};
+    }
+    void readingALine()
+    {
+        const FontColorSet set = parseSetLine(FETCH(QString, line));
+        QTEST((QStringList{set.fontName, set.fontSize, set.firstColor, set.secondColor}), "fields");
+    }
+
+    void storedAndLoaded()
+    {
+        BasicsFixture f;
+        DirecDataRecord& record = f.state.DirecData;
+        record.PictBackColor = QStringLiteral("&H336699");
+        QVERIFY(writeSetFile(f.basics, QStringLiteral("PictBackCol2"),
+                             setFromRecord(record, SetGroup::PictBackCol)));
+        QCOMPARE(f.home.readFile("Lumentas/ForProgramRun_KDR/PictBackCol2.dat"),
+                 QByteArray("Non,Non,&H336699,Non \r\n"));
+        // The loaders ask in capitals; the name on disk is found whatever its case.
+        const auto read = readSetFile(f.basics, QStringLiteral(" pictbackcol2.dat"));
+        QVERIFY(read);
+        QCOMPARE(read->firstColor, QStringLiteral("&H336699"));
+        QVERIFY(!readSetFile(f.basics, QStringLiteral("PICTBACKCOL9.DAT")));
+        QVERIFY(!writeSetFile(f.basics, QStringLiteral("..\\escape"), *read));
+        QVERIFY(!writeSetFile(f.basics, QStringLiteral("  "), *read));
+    }
+
+    void pictureGroundResetTouchesOnlyItsField()
+    {
+        DirecDataRecord record;
+        for (SetGroup group : {SetGroup::Comment, SetGroup::Text, SetGroup::EditText})
+            storeSetInRecord(record, group, {"Font", "12", "1", "2"});
+        record.PictBackColor = QStringLiteral("255");
+        const QByteArray before = record.toBytes();
+        storeSetInRecord(record, SetGroup::PictBackCol, defaultSet(SetGroup::PictBackCol));
+        const QByteArray after = record.toBytes();
+        QCOMPARE(after.left(1080), before.left(1080));
+        QCOMPARE(after.mid(1095), before.mid(1095));
+        QCOMPARE(after.mid(1080, 15), QByteArray("&HC0C0C0       "));
+    }
+
+    void findsTheFirstOnPath_data()
+    {
+        QTest::addColumn<ProgramRole>("role");
+        QTest::addColumn<QStringList>("installed"); // "-name": without the execute bit
+        QTest::addColumn<QString>("expected");
+
+        const auto paint = ProgramRole::PictureEditor;
+        const auto row = [](const char* tag, ProgramRole role, const QStringList& installed,
+                            const char* expected) {
+            QTest::newRow(tag) << role << installed << QStringLiteral("Z:\\usr\\bin\\") + expected;
+        };
+        row("gimp before the opener", paint, {"xdg-open", "gimp"}, "gimp");
+        row("gimp before kolourpaint", paint, {"kolourpaint", "gimp"}, "gimp");
+        row("gimp without execute bit", paint, {"xdg-open", "-gimp"}, "xdg-open");
+        row("nothing: the opener's place", paint, {}, "xdg-open");
+        row("other roles' programs", paint, {"gedit", "vlc", "audacity"}, "xdg-open");
+        row("browser: user's choice first", ProgramRole::WebBrowser,
+            {"firefox-esr", "x-www-browser"}, "x-www-browser");
+    }
+    void findsTheFirstOnPath()
+    {
+        QFETCH(ProgramRole, role);
+        TestHome home;
+        FakeSystemBin bin(home.fs);
+        for (const QString& name : FETCH(QStringList, installed))
+            bin.add(name.startsWith('-') ? name.mid(1) : name, !name.startsWith('-'));
+        QTEST(findProgram(role, QStringLiteral("Z:\\usr\\bin"), home.fs), "expected");
+    }
+
+    void programFiles()
+    {
+        TestHome home;
+        FakeSystemBin bin(home.fs);
+        const QDir folder(bin.folder());
+        bin.add(QStringLiteral("gimp"));
+        bin.add(QStringLiteral("notes.txt"), false);
+        QVERIFY(folder.mkdir(QStringLiteral("share")));
+        QVERIFY(isProgramFile(folder.filePath("gimp")));
+        QVERIFY(!isProgramFile(folder.filePath("notes.txt")));
+        QVERIFY(!isProgramFile(folder.filePath("share")));
+    }
 };
 
-QTEST_MAIN(TestAutoStartTable)
-#include "tst_AutoStartTable.moc"
+QTEST_MAIN(TestSettingsFiles)
+#include "tst_SettingsFiles.moc"

@@ -1,0 +1,38 @@
+#include "settings/FormFukuMan.h"
+
+#include "platform/Controls.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace lumen {
+
+QString FormFukuMan::noteText()
+{
+    return QStringLiteral(
+        "デジタルカメラの動画 (MOV, AVI, MPG など) と 3D画像 (WRL, NFF) を見るための\n"
+        "プログラムは、パッケージとして入手できます。\n\n"
+        "動画プレーヤー:  vlc, totem, mpv など\n"
+        "    例)  sudo apt install vlc\n\n"
+        "3Dビューワー:  view3dscene, f3d (WRL),  g3dviewer, meshlab (NFF など)\n"
+        "    例)  sudo apt install view3dscene g3dviewer\n\n"
+        "入れたプログラムは、ｱﾌﾟﾘｹｰｼｮﾝ関連付けの画面で\n"
+        "ボタンを右ｸﾘｯｸし、「ｱﾌﾟﾘｹｰｼｮﾝ設定」で選んでください。");
+}
+
+FormFukuMan::FormFukuMan(QWidget* parent)
+    : FormBase(QStringLiteral("FormFukuMan"), parent, Qt::Tool)
+{
+    setWindowTitle(QStringLiteral("プレーヤーとビューワーの入手先"));
+    LabelNote = named<QLabel>(QStringLiteral("LabelNote"), noteText(), this);
+    LabelNote->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    CommandClose = commandButton(QStringLiteral("CommandClose"), QStringLiteral("閉じる"), this);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(14, 12, 14, 10);
+    column->addWidget(LabelNote);
+    column->addWidget(CommandClose, 0, Qt::AlignRight);
+    connect(CommandClose, &QPushButton::clicked, this, [this] { unload(); });
+}
+
+} // namespace lumen
