@@ -108,6 +108,7 @@ private Q_SLOTS:
     void englishAndUserWords();
     void hintsWhileNoItemIsChosen_data();
     void hintsWhileNoItemIsChosen();
+    void bindingsStartTheEditorsFile();
     void waysOut_data();
     void waysOut();
     void savedThroughTheSelection();
@@ -433,6 +434,24 @@ void TestFormEditText::hintsWhileNoItemIsChosen()
         QCOMPARE(a.ui.messages[0].left, int(twLeft(a.editor)) + int(pixelsToTwips(at.x())) - 100);
         QCOMPARE(a.ui.messages[0].top, int(twTop(a.editor)) + int(pixelsToTwips(at.y())) + 300);
     }
+}
+
+void TestFormEditText::bindingsStartTheEditorsFile()
+{
+    EditorApp a;
+    a.app->state().SelectedFile = u"C:\\pics\\selected.jpg"_s;
+    a.app->state().DirecData.PictureEditorPath = u"C:\\bin\\paint"_s;
+    a.clickRow(4);
+    // While the editor is on, the programs of FormEdit2 take the editor's file.
+    a.select->CommandEditor->click();
+    auto* edit2 = a.app->forms().existing(u"FormEdit2"_s);
+    QVERIFY(edit2 && edit2->isVisible());
+    edit2->findChild<QPushButton*>(u"CommandMsPaint"_s)->click();
+    QCOMPARE(a.launcher.commandLines.value(0), u"C:\\bin\\paint C:\\pics\\d.png"_s);
+    // Back to standard text, they take the file selected in the selection.
+    a.press("CommandStanderdText");
+    edit2->findChild<QPushButton*>(u"CommandMsPaint"_s)->click();
+    QCOMPARE(a.launcher.commandLines.value(1), u"C:\\bin\\paint C:\\pics\\selected.jpg"_s);
 }
 
 void TestFormEditText::waysOut_data()
