@@ -8,6 +8,7 @@
 #include "platform/FileBoxes.h"
 #include "state/ProgramState.h"
 #include "support/Fetch.h"
+#include "support/Shots.h"
 
 #include <QLineEdit>
 
@@ -81,6 +82,8 @@ void TestFormReplaceEdit::replaceThroughTheWholeText()
         a.replace->findChild<QPushButton*>(u"CommandReplace"_s)->click();
     QCOMPARE(a.text1()->text(), FETCH(QString, after));
     QCOMPARE(a.ui.beeps, beeps + presses); // the beep sounds, found or not
+    if (QTest::currentDataTag() == QLatin1String("c: by *:, the capital C: stays"))
+        saveShot(a.replace, u"replace_edit"_s);
 }
 
 void TestFormReplaceEdit::stepBack()

@@ -9,6 +9,7 @@
 #include "settings/FormSetCommand.h"
 #include "settings/FormWordSet.h"
 #include "support/Fetch.h"
+#include "support/Shots.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -69,6 +70,7 @@ void TestFormSetCommand::commandWordsRebuildTheEditor()
         QPlainTextEdit* text = wordText(words);
         QVERIFY(text->toPlainText().contains(u"DELAY = オクレ"_s));
         text->setPlainText(text->toPlainText().replace(u"DELAY = オクレ"_s, u"DELAY = マツ"_s));
+        saveShot(words, u"set_command"_s);
         press(words, "CommandDo");
         seen << a.record(1);
         press(words, "CommandInitialSet");
