@@ -11,9 +11,9 @@
 #include "platform/FileBoxes.h"
 #include "platform/FileDrops.h"
 #include "platform/FileSystem.h"
-#include "platform/Fonts.h"
 #include "platform/FormRegistry.h"
 #include "platform/UserDialogs.h"
+#include "select/EditTextLook.h"
 #include "select/PreviewBox.h"
 #include "select/RichTextBox.h"
 #include "select/SelectionFiles.h"
@@ -401,24 +401,15 @@ void FormSelectFile::readExtensionSlots()
 
 void FormSelectFile::applyRecordLook()
 {
-    const DirecDataRecord& record = state_.DirecData;
-    const QString family = resolveFontFamily(FixedText(record.DispFontName));
-    const double size = Val(FixedText(record.DispFontSize));
     QList<QWidget*> controls{
         Drive1,         Dir1,         File1,    Text1,        ComboWordSerch,   TextSerchEXT,
         CheckAddToList, CheckLumenta, CheckANY, CheckExtWork, CheckDirectryLock};
     for (QCheckBox* box : Check1)
         controls.append(box);
-    // The edit text's colours: the first field is the ground, the second the letters.
-    const QString ground = FixedText(record.DispFontColor);
-    const QString letters = FixedText(record.DispBackColor);
     for (QWidget* control : std::as_const(controls)) {
         const bool small = control == ComboWordSerch || control == TextSerchEXT;
-        control->setFont(fontFrom(control->font(), family, small ? 9 : size));
-        if (IsNumeric(ground))
-            setBackColor(control, bgrFromText(ground));
-        if (IsNumeric(letters))
-            setForeColor(control, bgrFromText(letters));
+        applyEditTextLook(state_.DirecData, control,
+                          small ? std::optional<double>(9) : std::nullopt);
     }
 }
 
@@ -497,6 +488,9 @@ void FormSelectFile::Text1_DblClick()
         hiddenByLarge_.clear();
     }
     TextLarge = !TextLarge;
+    // The text takes the room that the hidden boxes leave.
+    if (auto* whole = qobject_cast<QBoxLayout*>(layout()))
+        whole->setStretch(0, TextLarge ? 0 : 3);
 }
 
 void FormSelectFile::Drive1_Change()

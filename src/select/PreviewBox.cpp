@@ -21,7 +21,13 @@ void PreviewBox::setPicture(const QImage& picture)
 
 QRect PreviewBox::pictureRect() const
 {
-    return previewRect(picture_.size(), size());
+    return placement_ ? placement_(picture_.size(), size()) : previewRect(picture_.size(), size());
+}
+
+void PreviewBox::setPlacement(Placement placement)
+{
+    placement_ = std::move(placement);
+    update();
 }
 
 void PreviewBox::paintEvent(QPaintEvent*)

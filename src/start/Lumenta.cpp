@@ -150,6 +150,7 @@ void Lumenta::registerForms()
     registerAutoPageForms();
     registerPictureForms();
     registerSelectForms();
+    registerEditorForms();
     registerBulkForms();
     registerBindingForms();
     registerEntryForms();

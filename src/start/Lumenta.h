@@ -16,9 +16,11 @@
 
 namespace lumen {
 
+class FormEditText;
 class FormEdit2;
 class FormMain;
 class FormSelectFile;
+struct FormSelectFileLinks;
 class FormStop;
 class ModuleStartWithFile;
 
@@ -62,6 +64,9 @@ private:
     void wirePictureLinks(FormMain& main);
     void registerSelectForms();   // LumentaSelectForms.cpp
     FormSelectFile& selectFile(); // made and loaded
+    void registerEditorForms();   // LumentaEditorForms.cpp
+    void wireEditorLinks(FormSelectFileLinks& links);
+    FormEditText& editText(); // made, not necessarily loaded
     void wireDropOnOpenFileList(FormMain& main);
     QList<QWidget*> selectEditTextControls(); // the selection's boxes, once it is made
     SetTargets setTargets();

@@ -1,12 +1,15 @@
 // The windows that bind media to outside programs: FormEdit2 with its
 // set-up menu FormRClick, the two 3D viewer windows and the note on where
 // players can be had, with the links that tie FormEdit2 to the selection.
+#include "editor/FormEditText.h"
 #include "settings/FormEdit2.h"
 #include "settings/FormFukuMan.h"
 #include "settings/FormRClick.h"
 #include "settings/FormViewerDir.h"
 #include "settings/FormViewerSelect.h"
 #include "start/Lumenta.h"
+
+#include <QLineEdit>
 
 namespace lumen {
 
@@ -33,6 +36,7 @@ void Lumenta::registerBindingForms()
         };
         links.endProgram = [this] { End(); };
         links.editorOn = [this] { return state_.EditorOn; };
+        links.editorFileName = [this] { return editText().TextFileName->text(); };
         return edit2;
     });
     forms_.add(QStringLiteral("FormRClick"),

@@ -71,6 +71,7 @@ void Lumenta::registerSelectForms()
                 edit2->activateWindow();
             };
         }
+        wireEditorLinks(links);
         select->linksChanged();
         host_.fileControlRefreshers.append([this] {
             if (auto* made = static_cast<FormSelectFile*>(forms_.existing(kFormSelectFile));

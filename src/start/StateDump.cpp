@@ -4,6 +4,7 @@
 #include "fileops/FormFileOption.h"
 #include "platform/FileSystem.h"
 #include "platform/SafeFile.h"
+#include "select/RichTextBox.h"
 #include "show/FormMain.h"
 #include "start/Lumenta.h"
 
@@ -11,6 +12,7 @@
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QSocketNotifier>
+#include <QTextBlock>
 
 #include <csignal>
 #include <sys/socket.h>
@@ -34,6 +36,34 @@ constexpr const char* kPictureWorkControls[] = {"CommandModPic",
                                                 "CommandSavePicPNG",
                                                 "CommandPast",
                                                 "CommandSetText"};
+
+// The controls of the list editor and its way in that whole-program tests press.
+constexpr const char* kEditorControls[] = {
+    "CommandOpenf", "CommandEditCommand1", "TextWaitTime",
+    "CommandAdd",   "CommandUpdate",       "CommandUp",
+    "CommandDoun",  "CommandStanderdText", "CommandReplaceEditor"};
+
+// The first lines of the selection's Text1 that are on show, by their
+// number in the box: where a test points to click a row of the editor text.
+void text1Lines(const QWidget* window, QStringList& lines)
+{
+    const auto* box = window->findChild<RichTextBox*>(QStringLiteral("Text1"));
+    if (!box || !box->isVisible())
+        return;
+    const QTextDocument* document = box->document();
+    for (int line = 0; line < qMin(document->blockCount(), 12); ++line) {
+        QTextCursor at(document->findBlockByNumber(line));
+        const QRect place = box->cursorRect(at);
+        if (!box->viewport()->rect().contains(place.center()))
+            continue;
+        const QPoint centre = box->viewport()->mapToGlobal(place.center() + QPoint(40, 0));
+        lines << QStringLiteral("Line.%1.Text1.%2=%3 %4")
+                     .arg(window->objectName())
+                     .arg(line)
+                     .arg(centre.x())
+                     .arg(centre.y());
+    }
+}
 
 // The controls of bulk work and the bindings that whole-program tests press.
 constexpr const char* kBulkControls[] = {
@@ -81,6 +111,11 @@ QString StateDump::text() const
     lines << QStringLiteral("PicNo=") + QString::number(app_.state().PicNo);
     lines << QStringLiteral("ListReady=") + (app_.state().ListReady ? "True" : "False");
     lines << QStringLiteral("AutoPageOn=") + (app_.state().AutoPageOn ? "True" : "False");
+    // The delay of the page on show, as the list gives it.
+    lines << QStringLiteral("PageDelay=") +
+                 app_.state().ListArray.at(kColDelay, app_.state().PicNo);
+    lines << QStringLiteral("EditorOn=") + (app_.state().EditorOn ? "True" : "False");
+    lines << QStringLiteral("EditRow=") + QString::number(app_.state().EditRow);
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (!window->isVisible() || window->objectName().isEmpty())
             continue;
@@ -109,6 +144,10 @@ QString StateDump::text() const
             clickable(name);
         for (const char* name : kPictureWorkControls)
             clickable(name);
+        for (const char* name : kEditorControls)
+            clickable(name);
+        if (window->objectName() == QLatin1String("FormSelectFile"))
+            text1Lines(window, lines);
         for (const char* name : kBulkControls)
             clickable(name);
     }

@@ -33,6 +33,8 @@ struct ProgramState {
     qint16 EditRow = 0;                    // selected row, from 0: EditArray row EditRow + 1
     bool EditorOn = false;                 // Text1 of the file selection holds editor text
     bool ReplaceOpen = false;              // FormReplaceEdit is open
+    bool WordSetExt = false;               // FormWordSet edits ExtType.dat
+    bool WordSetSearch = false;            // FormWordSet edits SerchWordList.txt
     QStringList CommandWord;               // 1 To 34; index 0 unused
     StringGrid ExtTypeArray{kExtSlots, 2}; // (0 To 16, 0 To 1): name, marker
 
