@@ -15,17 +15,7 @@ out=$3
 mkdir -p "$out"
 # shellcheck source-path=SCRIPTDIR source=lib.sh
 source "$(dirname "$0")/lib.sh"
-wm=
-if command -v openbox >/dev/null; then
-  openbox >/dev/null 2>&1 &
-  wm=$!
-  # The program's windows are placed by the window manager once it runs.
-  for _ in $(seq 1 50); do
-    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
-    sleep 0.1
-  done
-fi
-trap 'cleanup; [ -n "$wm" ] && kill "$wm" 2>/dev/null || true' EXIT
+start_openbox
 answer_yes() { # the question box of the program has the focus
   sleep 0.5
   xdotool key --clearmodifiers Return

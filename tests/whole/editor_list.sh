@@ -20,21 +20,7 @@ source "$(dirname "$0")/lib.sh"
 # of its own waits that long.
 printf '\011\000' | dd of="$settings/DirecData.ran" bs=1 seek=1095 conv=notrunc status=none
 
-wm=
-if command -v openbox >/dev/null; then
-  openbox >/dev/null 2>&1 &
-  wm=$!
-fi
-stop_wm() { [ -n "$wm" ] && kill "$wm" 2>/dev/null || true; cleanup; }
-trap stop_wm EXIT
-# The program's first window is placed by the window manager only once it runs.
-for _ in $(seq 1 50); do
-  [ -z "$wm" ] && break
-  if command -v xprop >/dev/null; then
-    xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
-  fi
-  sleep 0.1
-done
+start_openbox
 
 # The demo list written for this home; the program started without it.
 HOME=$home "$src/scripts/demo-list" "$home/demo.lst"

@@ -126,7 +126,28 @@ key() { # a key pressed in the program's main window
   xdotool windowfocus --sync "$window" 2>/dev/null || true
   xdotool key --clearmodifiers "$1"
 }
+# settled <Form name>: waits until the window manager has framed the window
+# (when one runs) and the window keeps its place from one dump to the next; a
+# click read off a window that is still being placed lands beside its button.
+settled() {
+  local w last= now
+  if [ -n "$wm" ] && w=$(window_of "$1") && [ -n "$w" ]; then
+    for _ in $(seq 1 30); do
+      xprop -id "$w" _NET_FRAME_EXTENTS 2>/dev/null | grep -q '=' && break
+      sleep 0.1
+    done
+  fi
+  for _ in $(seq 1 20); do
+    dump || continue
+    now=$(value "Window\.$1")
+    [ -n "$now" ] && [ "$now" = "$last" ] && return 0
+    last=$now
+    sleep 0.15
+  done
+}
 click() { # a button named in the dump as Click.<window>.<button>
+  local form=${1%%.*}
+  settled "${form%\\}"
   await "^Click\.$1=" || fail "$1 is not on show"
   read -r x y < <(value "Click\.$1")
   # A move to where the pointer already is never reports back: --sync only

@@ -15,13 +15,7 @@ out=$3
 mkdir -p "$out"
 # shellcheck source-path=SCRIPTDIR source=lib.sh
 source "$(dirname "$0")/lib.sh"
-wm=
-if command -v openbox >/dev/null; then
-  openbox >/dev/null 2>&1 &
-  wm=$!
-  sleep 0.5
-fi
-trap 'cleanup; [ -n "$wm" ] && kill "$wm" 2>/dev/null || true' EXIT
+start_openbox
 await_file() { # waits up to five seconds for a file
   for _ in $(seq 1 50); do
     [ -f "$1" ] && return 0

@@ -21,13 +21,7 @@ cp "$src"/assets/demo/{flower.bmp,mountains.jpg,night.jpg,sunrise.png,tower.png}
 printf 'C:\\demo pics\r\n' > "$settings/AccessPass.dat"
 printf 'C:\\Lumentas\r\n0\r\n' > "$settings/AccessLockDir.dat"
 
-wm=
-if command -v openbox >/dev/null; then
-  openbox >/dev/null 2>&1 &
-  wm=$!
-fi
-stop_wm() { [ -n "$wm" ] && kill "$wm" 2>/dev/null || true; cleanup; }
-trap stop_wm EXIT
+start_openbox
 
 HOME=$home QT_QPA_PLATFORM=xcb "$exe" &
 pid=$!
