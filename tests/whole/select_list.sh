@@ -51,4 +51,7 @@ printf 'C:\\demo pics\\%s\r\n' flower.bmp mountains.jpg night.jpg sunrise.png to
   fail "shows.lst isn't the list built: $(od -c "$home/demo pics/shows.lst" | head -5)"
 sleep 1
 import -window root "$out/select_show.png"
+read -r left top width height < <(frame_geometry "$(main_window)")
+on_screen "$left" "$top" "$width" "$height" ||
+  fail "the show's window stands at $left $top, $width x $height: its title bar is off the screen"
 echo "PASS: a folder added in the selection window, saved as a list, and shown"
