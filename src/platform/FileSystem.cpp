@@ -134,12 +134,15 @@ bool copyBytes(const QString& source, const QString& target)
     QFile from;
     if (!openRegularFile(from, source))
         return false;
-    StagedFile to(target, Durability::Quick);
+    struct stat status {};
+    if (::fstat(from.handle(), &status) != 0)
+        return false;
+    StagedFile to(target, Durability::Quick, status.st_mode & 07777);
     if (!to.isOpen())
         return false;
-    struct stat status {};
-    if (::fstat(from.handle(), &status) == 0)
-        to.setMode(status.st_mode & 07777);
+    // The bytes the source had when it was opened: no last call to learn
+    // that the end has come.
+    off_t copied = 0;
     for (;;) {
         const ssize_t sent = ::sendfile(to.descriptor(), from.handle(), nullptr, kCopyChunk);
         if (sent < 0 && errno == EINTR)
@@ -148,7 +151,8 @@ bool copyBytes(const QString& source, const QString& target)
             to.fail();
             return false;
         }
-        if (sent == 0)
+        copied += sent;
+        if (sent == 0 || copied >= status.st_size)
             break;
     }
     return to.commit();

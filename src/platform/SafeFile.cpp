@@ -113,7 +113,8 @@ bool isRunning(pid_t pid)
 
 // ---- StagedFile -------------------------------------------------------------
 
-StagedFile::StagedFile(const QString& nativeTarget, Durability durability)
+StagedFile::StagedFile(const QString& nativeTarget, Durability durability,
+                       std::optional<mode_t> mode)
     : durability_(durability)
 {
     const auto target = writableTarget(nativeTarget);
@@ -129,6 +130,10 @@ StagedFile::StagedFile(const QString& nativeTarget, Durability durability)
     if (fd_ < 0)
         return;
     staged_ = pattern;
+    if (mode) {
+        setMode(*mode);
+        return;
+    }
     struct stat status {};
     const bool replacing = ::stat(target_.constData(), &status) == 0;
     setMode(replacing ? status.st_mode & 07777 : newFileMode());

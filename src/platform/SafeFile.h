@@ -29,7 +29,10 @@ enum class Durability {
 // start can recognise and remove those that a killed process left behind.
 class StagedFile {
 public:
-    StagedFile(const QString& nativeTarget, Durability durability);
+    // With `mode`, the new file takes those permission bits; without, those
+    // of the file it replaces, or the bits a new file gets.
+    StagedFile(const QString& nativeTarget, Durability durability,
+               std::optional<mode_t> mode = std::nullopt);
     ~StagedFile(); // removes the staged file unless it was committed
     StagedFile(const StagedFile&) = delete;
     StagedFile& operator=(const StagedFile&) = delete;

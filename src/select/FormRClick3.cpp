@@ -64,10 +64,8 @@ FormRClick3::FormRClick3(VeroProcedure_Basical& basics, FormSelectFile& select, 
 
 void FormRClick3::Form_Load()
 {
-    // FormEdit2 comes with the program settings; until then its button waits.
-    const bool edit2 = bool(select_.links.showEdit2);
-    CommandOpenEdit->setEnabled(edit2);
-    CommandOpenEdit->setToolTip(edit2 ? QString() : QStringLiteral("準備中"));
+    // FormEdit2 comes with the program settings; without them the button can't be pressed.
+    CommandOpenEdit->setEnabled(bool(select_.links.showEdit2));
 }
 
 void FormRClick3::beepUnlessAutoPage()

@@ -334,10 +334,8 @@ void FormSelectFile::connectHandlers()
 
 void FormSelectFile::linksChanged()
 {
-    const auto enable = [](QWidget* control, bool on) {
-        control->setEnabled(on);
-        control->setToolTip(on ? QString() : QStringLiteral("準備中"));
-    };
+    // A button whose window isn't wired to this one can't be pressed.
+    const auto enable = [](QWidget* control, bool on) { control->setEnabled(on); };
     enable(CommandSetEditTextFont, bool(links.setEditTextFont));
     enable(CommandEditCommand1, bool(links.openEditor));
     enable(CommandEditor, bool(links.showEdit2));
