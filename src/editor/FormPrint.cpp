@@ -1,11 +1,5 @@
 #include "editor/FormPrint.h"
 
-#include "platform/Controls.h"
-
-#include <QLabel>
-#include <QPushButton>
-#include <QVBoxLayout>
-
 namespace lumen {
 
 QString FormPrint::noteText()
@@ -19,16 +13,7 @@ QString FormPrint::noteText()
 }
 
 FormPrint::FormPrint(QWidget* parent)
-    : FormBase(QStringLiteral("FormPrint"), parent, Qt::Tool)
-{
-    setWindowTitle(QStringLiteral("印刷"));
-    LabelNote = named<QLabel>(QStringLiteral("LabelNote"), noteText(), this);
-    CommandClose = commandButton(QStringLiteral("CommandClose"), QStringLiteral("閉じる"), this);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(14, 12, 14, 10);
-    column->addWidget(LabelNote);
-    column->addWidget(CommandClose, 0, Qt::AlignRight);
-    connect(CommandClose, &QPushButton::clicked, this, [this] { unload(); });
-}
+    : NoteForm(QStringLiteral("FormPrint"), QStringLiteral("印刷"), noteText(), parent)
+{}
 
 } // namespace lumen

@@ -3,21 +3,14 @@
 // of the entry window), which prints it.
 #pragma once
 
-#include "platform/FormBase.h"
-
-class QLabel;
-class QPushButton;
+#include "platform/NoteForm.h"
 
 namespace lumen {
 
-class FormPrint : public FormBase {
+class FormPrint : public NoteForm {
     Q_OBJECT
 public:
     explicit FormPrint(QWidget* parent = nullptr);
-
-    QLabel* LabelNote;
-    QPushButton* CommandClose;
-
     static QString noteText();
 };
 

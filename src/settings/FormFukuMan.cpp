@@ -1,11 +1,5 @@
 #include "settings/FormFukuMan.h"
 
-#include "platform/Controls.h"
-
-#include <QLabel>
-#include <QPushButton>
-#include <QVBoxLayout>
-
 namespace lumen {
 
 QString FormFukuMan::noteText()
@@ -22,17 +16,8 @@ QString FormFukuMan::noteText()
 }
 
 FormFukuMan::FormFukuMan(QWidget* parent)
-    : FormBase(QStringLiteral("FormFukuMan"), parent, Qt::Tool)
-{
-    setWindowTitle(QStringLiteral("プレーヤーとビューワーの入手先"));
-    LabelNote = named<QLabel>(QStringLiteral("LabelNote"), noteText(), this);
-    LabelNote->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    CommandClose = commandButton(QStringLiteral("CommandClose"), QStringLiteral("閉じる"), this);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(14, 12, 14, 10);
-    column->addWidget(LabelNote);
-    column->addWidget(CommandClose, 0, Qt::AlignRight);
-    connect(CommandClose, &QPushButton::clicked, this, [this] { unload(); });
-}
+    : NoteForm(QStringLiteral("FormFukuMan"), QStringLiteral("プレーヤーとビューワーの入手先"),
+               noteText(), parent)
+{}
 
 } // namespace lumen

@@ -3,21 +3,14 @@
 // names them; nothing is started or fetched from here.
 #pragma once
 
-#include "platform/FormBase.h"
-
-class QLabel;
-class QPushButton;
+#include "platform/NoteForm.h"
 
 namespace lumen {
 
-class FormFukuMan : public FormBase {
+class FormFukuMan : public NoteForm {
     Q_OBJECT
 public:
     explicit FormFukuMan(QWidget* parent = nullptr);
-
-    QLabel* LabelNote;
-    QPushButton* CommandClose;
-
     static QString noteText();
 };
 

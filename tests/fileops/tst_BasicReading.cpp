@@ -2,7 +2,7 @@
 #include "support/BasicsFixture.h"
 
 #include "support/Fetch.h"
-#include "support/SpecialFiles.h"
+#include "support/OddFiles.h"
 
 #include <QFile>
 
@@ -80,16 +80,16 @@ void TestBasicReading::read()
 
 void TestBasicReading::unreadableFiles_data()
 {
-    QTest::addColumn<int>("kind"); // a Special, or -1: a file of `size` bytes
+    QTest::addColumn<int>("kind"); // a OddFile, or -1: a file of `size` bytes
     QTest::addColumn<qint64>("size");
     QTest::addColumn<qint64>("limit");
     QTest::addColumn<QString>("box");
     const QString access = QStringLiteral("パス/ファイル アクセス エラーです。");
     const QString memory = QStringLiteral("メモリが不足しています。");
-    QTest::newRow("named pipe") << int(Special::Pipe) << 0LL << kListFileLimit << access;
+    QTest::newRow("named pipe") << int(OddFile::Pipe) << 0LL << kListFileLimit << access;
     QTest::newRow("link to a device")
-        << int(Special::LinkToDevice) << 0LL << kListFileLimit << access;
-    QTest::newRow("folder") << int(Special::Folder) << 0LL << kListFileLimit << access;
+        << int(OddFile::LinkToDevice) << 0LL << kListFileLimit << access;
+    QTest::newRow("folder") << int(OddFile::Folder) << 0LL << kListFileLimit << access;
     QTest::newRow("settings file over 1 MB")
         << -1 << kSettingsFileLimit + 1 << kSettingsFileLimit << memory;
     QTest::newRow("list over its largest size")
@@ -107,7 +107,7 @@ void TestBasicReading::unreadableFiles()
     if (FETCH(int, kind) < 0) {
         f.home.writeFile("list.lst", "a");
         QVERIFY(QFile::resize(native, FETCH(qint64, size))); // sparse
-    } else if (!makeSpecial(Special(FETCH(int, kind)), native)) {
+    } else if (!makeOddFile(OddFile(FETCH(int, kind)), native)) {
         QSKIP("the system doesn't let this test make a device");
     }
     const QString box = FETCH(QString, box);
@@ -115,7 +115,7 @@ void TestBasicReading::unreadableFiles()
     QCOMPARE(f.ui.boxes, QStringList{box});
     if (FETCH(qint64, limit) == kListFileLimit) {
         // A folder is no file to clean at all: no second box.
-        const bool folder = FETCH(int, kind) == int(Special::Folder);
+        const bool folder = FETCH(int, kind) == int(OddFile::Folder);
         QCOMPARE(f.basics.CleanListFile(kList), 0);
         QCOMPARE(f.ui.boxes, folder ? QStringList{box} : (QStringList{box, box}));
     }

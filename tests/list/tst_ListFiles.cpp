@@ -7,7 +7,7 @@
 #include "list/ListLoader.h"
 #include "support/BasicsFixture.h"
 #include "support/Fetch.h"
-#include "support/SpecialFiles.h"
+#include "support/OddFiles.h"
 
 #include <QElapsedTimer>
 #include <QFile>

@@ -11,7 +11,7 @@
 #include "platform/TextCodec.h"
 
 #include "support/Fetch.h"
-#include "support/SpecialFiles.h"
+#include "support/OddFiles.h"
 #include "support/TestHome.h"
 
 #include <QDir>
@@ -34,7 +34,7 @@ using namespace lumen::text;
 using namespace lumen::test;
 using namespace Qt::StringLiterals;
 
-Q_DECLARE_METATYPE(lumen::test::Special)
+Q_DECLARE_METATYPE(lumen::test::OddFile)
 Q_DECLARE_METATYPE(lumen::PathKind)
 
 namespace {
@@ -297,15 +297,15 @@ private Q_SLOTS:
 
     void specialFilesAreNeverOpened_data()
     {
-        QTest::addColumn<Special>("kind");
+        QTest::addColumn<OddFile>("kind");
         QTest::addColumn<PathKind>("expected");
-        QTest::newRow("named pipe") << Special::Pipe << PathKind::Other;
-        QTest::newRow("link to a named pipe") << Special::LinkToPipe << PathKind::Other;
-        QTest::newRow("character device") << Special::Device << PathKind::Other;
-        QTest::newRow("link to a character device") << Special::LinkToDevice << PathKind::Other;
-        QTest::newRow("link to nothing") << Special::LinkToNothing << PathKind::Other;
-        QTest::newRow("folder") << Special::Folder << PathKind::Folder;
-        QTest::newRow("link to a folder") << Special::LinkToFolder << PathKind::Folder;
+        QTest::newRow("named pipe") << OddFile::Pipe << PathKind::Other;
+        QTest::newRow("link to a named pipe") << OddFile::LinkToPipe << PathKind::Other;
+        QTest::newRow("character device") << OddFile::Device << PathKind::Other;
+        QTest::newRow("link to a character device") << OddFile::LinkToDevice << PathKind::Other;
+        QTest::newRow("link to nothing") << OddFile::LinkToNothing << PathKind::Other;
+        QTest::newRow("folder") << OddFile::Folder << PathKind::Folder;
+        QTest::newRow("link to a folder") << OddFile::LinkToFolder << PathKind::Folder;
     }
     // Nothing reads, writes or copies onto them, and they stay as they were.
     void specialFilesAreNeverOpened()
@@ -313,7 +313,7 @@ private Q_SLOTS:
         const Watchdog watchdog(20); // an open pipe would block here
         TestHome home;
         const QString path = home.native("Settings.dat");
-        if (!makeSpecial(FETCH(Special, kind), path))
+        if (!makeOddFile(FETCH(OddFile, kind), path))
             QSKIP("the system doesn't let this test make a device");
         const QStringList before = entries(home.path());
         const QString described = describePath(path);

@@ -5,8 +5,8 @@
 #include "platform/PictureFile.h"
 
 #include "support/Fetch.h"
+#include "support/OddFiles.h"
 #include "support/PictureSamples.h"
-#include "support/SpecialFiles.h"
 #include "support/TestHome.h"
 
 #include <QElapsedTimer>
@@ -131,7 +131,7 @@ private Q_SLOTS:
         const Watchdog watchdog(20);
         const TestHome home;
         const QString path = home.native("next.jpg");
-        QVERIFY(makeSpecial(Special::Pipe, path));
+        QVERIFY(makeOddFile(OddFile::Pipe, path));
         QCOMPARE(pictureSize(path), QSize());
         QVERIFY(readPicture(path).isNull());
         QVERIFY(!writePicture(quarteredPicture(), path, "png"));

@@ -8,7 +8,7 @@
 #include "settings/WordFiles.h"
 #include "support/BasicsFixture.h"
 #include "support/Fetch.h"
-#include "support/SpecialFiles.h"
+#include "support/OddFiles.h"
 
 #include <QFile>
 #include <QTest>

@@ -13,8 +13,8 @@
 #include "show/FormMain.h"
 #include "state/ProgramState.h"
 #include "support/Fetch.h"
+#include "support/OddFiles.h"
 #include "support/Shots.h"
-#include "support/SpecialFiles.h"
 
 #include <QApplication>
 #include <QCheckBox>

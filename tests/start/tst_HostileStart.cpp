@@ -7,7 +7,7 @@
 #include "platform/SafeFile.h"
 #include "start/AppFixture.h"
 #include "support/Fetch.h"
-#include "support/SpecialFiles.h"
+#include "support/OddFiles.h"
 
 #include <QDir>
 #include <QLineEdit>
@@ -23,7 +23,7 @@ using namespace lumen;
 using namespace lumen::test;
 using namespace Qt::StringLiterals;
 
-Q_DECLARE_METATYPE(lumen::test::Special)
+Q_DECLARE_METATYPE(lumen::test::OddFile)
 
 namespace {
 
@@ -66,14 +66,14 @@ private Q_SLOTS:
     void settingsThatAreNoFilesStayUntouched_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::addColumn<Special>("kind");
+        QTest::addColumn<OddFile>("kind");
         for (const char* name : {"DirecData.ran", "StartFromWhere.dat", "PictureSizeAllowVal.dat",
                                  "AccessPass.dat", "AccessLockDir.dat", "SendToList.txt",
                                  "CommandList.txt", "ExtType.dat", "Drives.txt"}) {
             QTest::addRow("%s, link to a pipe", name)
-                << QString::fromLatin1(name) << Special::LinkToPipe;
+                << QString::fromLatin1(name) << OddFile::LinkToPipe;
             QTest::addRow("%s, link to a device", name)
-                << QString::fromLatin1(name) << Special::LinkToDevice;
+                << QString::fromLatin1(name) << OddFile::LinkToDevice;
         }
     }
     // Nothing opens them: a start and an end leave them as they were, and
@@ -85,7 +85,7 @@ private Q_SLOTS:
         App a;
         const QString path = settingsPath(a, name);
         QFile::remove(path);
-        if (!makeSpecial(FETCH(Special, kind), path))
+        if (!makeOddFile(FETCH(OddFile, kind), path))
             QSKIP("the system doesn't let this test make a device");
         const QString before = describePath(path);
         a.home.fs.loadDrivesFile(a.home.native(kSettingsFolder));
@@ -112,14 +112,14 @@ private Q_SLOTS:
         const bool list = where == u"list"_s;
         App a(list ? QStringList{u"piped.lst"_s} : QStringList());
         if (list) {
-            QVERIFY(makeSpecial(Special::Pipe, a.home.native(u"piped.lst"_s)));
+            QVERIFY(makeOddFile(OddFile::Pipe, a.home.native(u"piped.lst"_s)));
         } else if (where != u"picture"_s) {
             QFile::remove(settingsPath(a, where));
-            QVERIFY(makeSpecial(Special::Pipe, settingsPath(a, where)));
+            QVERIFY(makeOddFile(OddFile::Pipe, settingsPath(a, where)));
         }
         a.home.fs.loadDrivesFile(a.home.native(kSettingsFolder));
         if (where == u"picture"_s) {
-            QVERIFY(makeSpecial(Special::Pipe, a.home.native(u"b.jpg"_s)));
+            QVERIFY(makeOddFile(OddFile::Pipe, a.home.native(u"b.jpg"_s)));
             a.openList({a.home.picture(u"a.png"_s), u"C:\\b.jpg"_s});
             QCOMPARE(a.main().TextTotal->text(), u"2"_s);
             a.main().CommandRight_Click(); // the piped picture, prepared ahead already

@@ -8,11 +8,11 @@
 
 namespace lumen::test {
 
-enum class Special { Pipe, LinkToPipe, Device, LinkToDevice, LinkToNothing, Folder, LinkToFolder };
+enum class OddFile { Pipe, LinkToPipe, Device, LinkToDevice, LinkToNothing, Folder, LinkToFolder };
 
 // Makes the thing at `native`; what a link names goes beside it, under a
 // name of its own. False when it can't be made (a device needs privilege).
-bool makeSpecial(Special kind, const QString& native);
+bool makeOddFile(OddFile kind, const QString& native);
 
 // The kind of what stands at the path, with a link's target and the kind of
 // that ("link:/tmp/x/pipe.target>pipe"), a regular file's size and bytes'

@@ -1,4 +1,4 @@
-#include "support/SpecialFiles.h"
+#include "support/OddFiles.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -52,23 +52,23 @@ QString kindOf(const struct stat& status)
 
 } // namespace
 
-bool makeSpecial(Special kind, const QString& native)
+bool makeOddFile(OddFile kind, const QString& native)
 {
     const QString target = native + QStringLiteral(".target");
     switch (kind) {
-    case Special::Pipe:
+    case OddFile::Pipe:
         return makeFifo(native);
-    case Special::LinkToPipe:
+    case OddFile::LinkToPipe:
         return makeFifo(target) && linkTo(target, native);
-    case Special::Device:
+    case OddFile::Device:
         return makeDevice(native);
-    case Special::LinkToDevice:
+    case OddFile::LinkToDevice:
         return makeDevice(target) && linkTo(target, native);
-    case Special::LinkToNothing:
+    case OddFile::LinkToNothing:
         return linkTo(target, native);
-    case Special::Folder:
+    case OddFile::Folder:
         return QDir().mkdir(native);
-    case Special::LinkToFolder:
+    case OddFile::LinkToFolder:
         return QDir().mkdir(target) && linkTo(target, native);
     }
     return false;
