@@ -39,6 +39,11 @@ struct App {
             home.makeFolder("Lumentas/ForProgramRun_KDR");
             writeDirecData(home.native("Lumentas/ForProgramRun_KDR/DirecData.ran"), record);
         }
+        start(arguments);
+    }
+    // A program started anew over the same home, as on the next start.
+    void start(const QStringList& arguments = QStringList())
+    {
         app = std::make_unique<Lumenta>(services, arguments, home.native("bin/lumenta"));
         app->quit = [this] { ++quits; };
     }

@@ -14,6 +14,7 @@
 #include "settings/FormSetAccessDirectry.h"
 #include "settings/FormViewerSelect.h"
 #include "show/FormMain.h"
+#include "start/AppFixture.h"
 #include "start/Lumenta.h"
 #include "support/FakeMedia.h"
 #include "support/FakeSystemBin.h"
@@ -41,51 +42,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString kRun = u"Lumentas/ForProgramRun_KDR/"_s;
-
-struct App {
-    TestHome home;
-    FakeClock clock;
-    FakeDialogs ui;
-    FakeLauncher launcher;
-    FakeMedia media;
-    Services services{clock, ui, launcher, home.fs, media};
-    std::unique_ptr<Lumenta> app;
-    int quits = 0;
-
-    explicit App(bool pastFirstStart = true)
-    {
-        if (pastFirstStart) {
-            DirecDataRecord record;
-            record.CommentFontName = u"MS UI Gothic"_s;
-            home.makeFolder(kRun);
-            writeDirecData(home.native(kRun + u"DirecData.ran"_s), record);
-        }
-        start();
-    }
-    void start()
-    {
-        app = std::make_unique<Lumenta>(services, QStringList(), home.native("bin/lumenta"));
-        app->quit = [this] { ++quits; };
-    }
-    FormMain& main() { return app->formMain(); }
-    template <class T> T* form(const char* name)
-    {
-        return static_cast<T*>(app->forms().form(QString::fromLatin1(name)));
-    }
-    bool shown(const char* name) const
-    {
-        const FormBase* form = app->forms().existing(QString::fromLatin1(name));
-        return form && form->isVisible();
-    }
-    void openList(const QStringList& lines)
-    {
-        home.writeFile(u"show.lst"_s, lines.join(u"\r\n"_s).toUtf8());
-        app->Main();
-        main().resize(800, 580);
-        main().CheckQuiCkWork->setChecked(true);
-        main().OpenFileList(u"C:\\show.lst"_s);
-    }
-};
 
 } // namespace
 
@@ -171,7 +127,7 @@ void TestFormBulkAndBindings::entryWindowBesideTheShow()
 
 void TestFormBulkAndBindings::freshMachineGivesEveryBindingAProgram()
 {
-    App a(false);
+    App a({}, false);
     FakeSystemBin bin(a.home.fs);
     const QString opener = bin.add(u"xdg-open"_s); // all a bare machine has
     a.app->Main();

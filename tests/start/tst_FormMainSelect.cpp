@@ -7,6 +7,7 @@
 #include "platform/FileBoxes.h"
 #include "select/FormSelectFile.h"
 #include "show/FormMain.h"
+#include "start/AppFixture.h"
 #include "start/Lumenta.h"
 #include "support/FakeMedia.h"
 #include "support/Fakes.h"
@@ -28,32 +29,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Lumenta over the fakes, past its first start, with C:\pics holding a tree.
-struct App {
-    TestHome home;
-    FakeClock clock;
-    FakeDialogs ui;
-    FakeLauncher launcher;
-    FakeMedia media;
-    Services services{clock, ui, launcher, home.fs, media};
-    std::unique_ptr<Lumenta> app;
-
-    explicit App(const QStringList& names = {})
+// Lumenta over the fakes, past its first start, with C:\pics holding a tree
+// before it starts.
+struct SelectApp : App {
+    explicit SelectApp(const QStringList& names = {})
     {
-        DirecDataRecord record;
-        record.CommentFontName = u"MS UI Gothic"_s;
-        home.makeFolder("Lumentas/ForProgramRun_KDR");
-        writeDirecData(home.native("Lumentas/ForProgramRun_KDR/DirecData.ran"), record);
         home.writeFile("pics/a.jpg", "x");
         home.writeFile("pics/b.txt", "x");
         home.writeFile("pics/sub/c.jpg", "x");
         QStringList arguments;
         for (const QString& name : names)
             arguments << home.native(name);
-        app = std::make_unique<Lumenta>(services, arguments, home.native("bin/lumenta"));
-        app->quit = [] {};
+        start(arguments);
     }
-    FormMain& main() { return app->formMain(); }
     FormSelectFile* select()
     {
         return static_cast<FormSelectFile*>(app->forms().existing(u"FormSelectFile"_s));
@@ -87,7 +75,7 @@ private Q_SLOTS:
 
 void TestFormMainSelect::buttonsOpenTheWindows()
 {
-    App a;
+    SelectApp a;
     a.app->Main();
     for (const char* name : {"CommandSelectFile", "CommandGiveFilter"}) {
         auto* button = a.main().findChild<QPushButton*>(QLatin1String(name));
@@ -112,7 +100,7 @@ void TestFormMainSelect::dropOnOpenFileList_data()
 
 void TestFormMainSelect::dropOnOpenFileList()
 {
-    App a;
+    SelectApp a;
     a.app->Main();
     const bool quick = FETCH(bool, quick);
     a.main().CheckQuiCkWork->setChecked(quick);
@@ -132,7 +120,7 @@ void TestFormMainSelect::dropOnOpenFileList()
 
 void TestFormMainSelect::folderOnTheCommandLine()
 {
-    App a({"pics"});
+    SelectApp a({"pics"});
     a.main().CheckQuiCkWork->setChecked(true);
     a.app->Main();
     // The selection window listed it: its Dir1 went there, its text holds it.
@@ -146,7 +134,7 @@ void TestFormMainSelect::folderOnTheCommandLine()
 
 void TestFormMainSelect::refreshReachesTheBoxes()
 {
-    App a;
+    SelectApp a;
     a.app->Main();
     a.main().CommandSelectFile->click();
     a.select()->Dir1->setPath(u"C:\\pics"_s);
