@@ -24,12 +24,7 @@ start_openbox
 
 # The demo list written for this home; the program started without it.
 HOME=$home "$src/scripts/demo-list" "$home/demo.lst"
-HOME=$home QT_QPA_PLATFORM=xcb "$exe" &
-pid=$!
-for _ in $(seq 1 100); do # the program answers the dump once Main has begun
-  [ -f "$settings/StartFromWhere.dat" ] && break
-  sleep 0.1
-done
+start_program
 await '^Shown=FormMain' || fail "FormMain never showed"
 
 click FormMain.CheckQuiCkWork # a list opens without its half-minute view

@@ -23,12 +23,7 @@ printf 'C:\\Lumentas\r\n0\r\n' > "$settings/AccessLockDir.dat"
 
 start_openbox
 
-HOME=$home QT_QPA_PLATFORM=xcb "$exe" &
-pid=$!
-for _ in $(seq 1 100); do # the program answers the dump once Main has begun
-  [ -f "$settings/StartFromWhere.dat" ] && break
-  sleep 0.1
-done
+start_program
 await '^Shown=FormMain' || fail "FormMain never showed"
 
 click FormMain.CheckQuiCkWork                # the list opens without its half-minute view
